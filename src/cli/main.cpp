@@ -1,0 +1,29 @@
+// zolest: Zol Estimator's command-line tool over the same core as the desktop application.
+#include "cli/ZOLCliSupport.h"
+
+#include "platform/ZOLAlerts.h"
+
+#include <iostream>
+
+int main(int argc, char** argv) {
+    // Alerts the core raises (a file that cannot be read, a duplicate worksheet) go to stderr.
+    ZOLAlerts::setPresenter(std::make_shared<ZOLTextAlertPresenter>(
+        [](const std::string& text) { std::cerr << text; }));
+
+    CLI::App app{"zolest: take-offs, reports and files of Zol Estimator workbooks", "zolest"};
+    app.require_subcommand(1);
+    app.footer("Run 'zolest COMMAND --help' for the options of a command.");
+    zolcli::setupAll(app);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::CallForAllHelp& e) {
+        return app.exit(e);
+    } catch (const CLI::ParseError& e) {
+        std::cerr << "zolest: " << e.what() << "\n";
+        std::cerr << "Run 'zolest --help' for usage.\n";
+        return 2;
+    }
+    return zolcli::exitCode();
+}

@@ -1,0 +1,127 @@
+// The shared helpers every reader, screen and calculator leans on.
+#include "io/ZOLFormat.h"
+#include "io/ZOLNumeric.h"
+#include "io/ZOLText.h"
+#include "platform/ZOLAlerts.h"
+#include "support/AlertRecorder.h"
+
+#include <gtest/gtest.h>
+
+#include <clocale>
+#include <cmath>
+#include <limits>
+
+namespace {
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+} // namespace
+
+TEST(ZOLNumeric, DoubleToIntIsDefinedForEveryInput) {
+    EXPECT_EQ(ZOLNumeric::toInt(2.9), 2);
+    EXPECT_EQ(ZOLNumeric::toInt(-2.9), -2);
+    EXPECT_EQ(ZOLNumeric::toInt(std::nan("")), 0);
+    EXPECT_EQ(ZOLNumeric::toInt(INFINITY), kMax);
+    EXPECT_EQ(ZOLNumeric::toInt(-INFINITY), kMin);
+    EXPECT_EQ(ZOLNumeric::toInt(1e300), kMax);
+    EXPECT_EQ(ZOLNumeric::toInt(2147483647.5), kMax);
+    EXPECT_EQ(ZOLNumeric::toInt(-2147483648.9), kMin);
+    EXPECT_EQ(ZOLNumeric::ceilToInt(1.0000001), 2);
+    EXPECT_EQ(ZOLNumeric::ceilToInt(-1.5), -1);
+    EXPECT_EQ(ZOLNumeric::floorToInt(-1.5), -2);
+    EXPECT_EQ(ZOLNumeric::ceilToInt(std::nan("")), 0);
+}
+
+TEST(ZOLNumeric, IntegerArithmeticWrapsInsteadOfOverflowing) {
+    EXPECT_EQ(ZOLNumeric::wrapAdd(kMax, 1), kMin);
+    EXPECT_EQ(ZOLNumeric::wrapSub(kMin, 1), kMax);
+    EXPECT_EQ(ZOLNumeric::wrapMul(65536, 65536), 0);
+    EXPECT_EQ(ZOLNumeric::wrapMul(-3, 7), -21);
+    EXPECT_EQ(ZOLNumeric::wrapDiv(kMin, -1), kMin);
+    EXPECT_EQ(ZOLNumeric::wrapDiv(7, 0), 0);
+    EXPECT_EQ(ZOLNumeric::wrapDiv(-7, 2), -3);
+    EXPECT_EQ(ZOLNumeric::wrapMod(-13, 12), -1);
+    EXPECT_EQ(ZOLNumeric::wrapMod(kMin, -1), 0);
+}
+
+TEST(ZOLText, LeadingIntegerReadsWhatTheTextStartsWith) {
+    EXPECT_EQ(ZOLText::leadingInt("42"), 42);
+    EXPECT_EQ(ZOLText::leadingInt("  -17 corners"), -17);
+    EXPECT_EQ(ZOLText::leadingInt("+8"), 8);
+    EXPECT_EQ(ZOLText::leadingInt("12.9"), 12);
+    EXPECT_EQ(ZOLText::leadingInt("abc"), 0);
+    EXPECT_EQ(ZOLText::leadingInt(""), 0);
+    EXPECT_EQ(ZOLText::leadingInt("- 5"), 0);
+    EXPECT_EQ(ZOLText::leadingInt("99999999999999999999"), kMax);
+    EXPECT_EQ(ZOLText::leadingInt("-99999999999999999999"), kMin);
+    EXPECT_EQ(ZOLText::leadingInt(std::optional<std::string>()), 0);
+}
+
+TEST(ZOLText, LeadingDoubleTakesPlainDecimalsOnly) {
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("12.500000"), 12.5);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble(" -1.5ft"), -1.5);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble(".5"), 0.5);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("5."), 5.0);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("1.2.3"), 1.2);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e3"), 2000.0);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e"), 2.0);
+    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e+x"), 2.0);
+    EXPECT_EQ(ZOLText::leadingDouble("0x1p3"), 0.0);
+    EXPECT_EQ(ZOLText::leadingDouble("inf"), 0.0);
+    EXPECT_EQ(ZOLText::leadingDouble("nan"), 0.0);
+    EXPECT_EQ(ZOLText::leadingDouble("."), 0.0);
+    EXPECT_EQ(ZOLText::leadingDouble("true"), 0.0);
+    EXPECT_TRUE(std::isinf(ZOLText::leadingDouble("1e999")));
+    EXPECT_TRUE(std::isinf(ZOLText::leadingDouble("-1e999")));
+    EXPECT_EQ(ZOLText::leadingDouble("1e-999"), 0.0);
+}
+
+TEST(ZOLText, BooleanTextFollowsTheFirstCharacter) {
+    for (const char* yes : {"true", "True", "YES", "y", "  t", "1", "9", "7 days"})
+        EXPECT_TRUE(ZOLText::boolValue(yes)) << yes;
+    for (const char* no : {"false", "", "0", "no", "(null)", " ", "-1", "x"})
+        EXPECT_FALSE(ZOLText::boolValue(no)) << no;
+}
+
+TEST(ZOLText, EntryFieldKeystrokeRule) {
+    EXPECT_EQ(ZOLText::entryFieldText(""), std::nullopt);
+    EXPECT_EQ(ZOLText::entryFieldText("12a"), "12");
+    EXPECT_EQ(ZOLText::entryFieldText("a"), "0");
+    EXPECT_EQ(ZOLText::entryFieldText("1.2.3"), "1.2.3");
+    EXPECT_EQ(ZOLText::entryFieldText("-3"), "-3");
+    EXPECT_EQ(ZOLText::entryFieldText("12.5"), "12.5");
+    EXPECT_EQ(ZOLText::entryFieldText("-3x"), "3");
+    EXPECT_EQ(ZOLText::entryFieldText(" 4"), "4");
+    EXPECT_FALSE(ZOLText::isNumber("-"));
+    EXPECT_FALSE(ZOLText::isNumber("."));
+    EXPECT_TRUE(ZOLText::isNumber(".5"));
+}
+
+TEST(ZOLFormat, FormatsLikePrintfWithStringsAndAbsentStrings) {
+    EXPECT_EQ(ZOLFormat::format("%.2f lbs", 1170.0), "1170.00 lbs");
+    EXPECT_EQ(ZOLFormat::format("%@ WALL DATA", std::string("North")), "North WALL DATA");
+    EXPECT_EQ(ZOLFormat::format("%@|%@", std::optional<std::string>(), "x"), "(null)|x");
+    EXPECT_EQ(ZOLFormat::format("%d%%", 5), "5%");
+    EXPECT_EQ(ZOLFormat::format("%d' %d\"", 8, 0), "8' 0\"");
+    EXPECT_EQ(ZOLFormat::format("%f", 12.5), "12.500000");
+    EXPECT_EQ(ZOLFormat::format("no args"), "no args");
+}
+
+TEST(ZOLFormat, DecimalPointIgnoresTheUserLocale) {
+    const char* previous = std::setlocale(LC_NUMERIC, nullptr);
+    std::string saved = previous ? previous : "C";
+    if (std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr &&
+        std::setlocale(LC_NUMERIC, "fr_FR.UTF-8") == nullptr)
+        GTEST_SKIP() << "no comma-decimal locale installed";
+    EXPECT_EQ(ZOLFormat::format("%.2f", 1.5), "1.50");
+    std::setlocale(LC_NUMERIC, saved.c_str());
+}
+
+TEST(ZOLAlerts, RecorderSeesAlertsAndScriptsAnswers) {
+    ScopedAlertRecorder recorder;
+    recorder->answers = {1};
+    EXPECT_EQ(ZOLAlerts::run("Delete?", "Really", {"OK", "Cancel"}), 1);
+    EXPECT_EQ(ZOLAlerts::run("Nothing to send"), 0);
+    ASSERT_EQ(recorder->alerts.size(), 2u);
+    EXPECT_EQ(recorder->alerts[0].message, "Delete?");
+    EXPECT_EQ(recorder->alerts[1].buttons, std::vector<std::string>{"OK"});
+}
