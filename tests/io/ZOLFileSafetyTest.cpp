@@ -1,0 +1,134 @@
+// Reading a file's bytes, the format check before parsing, and the all-or-nothing save.
+#include "io/ZOLAtomicFile.h"
+#include "io/ZOLFileBytes.h"
+#include "io/ZOLReadCheck.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace {
+
+class TempFolder {
+public:
+    TempFolder() {
+        std::string pattern = (fs::temp_directory_path() / "zol-files-XXXXXX").string();
+        path_ = mkdtemp(pattern.data());
+    }
+    ~TempFolder() {
+        std::error_code ec;
+        fs::permissions(path_, fs::perms::owner_all, ec);
+        fs::remove_all(path_, ec);
+    }
+    fs::path operator/(const std::string& name) const { return fs::path(path_) / name; }
+    std::vector<std::string> names() const {
+        std::vector<std::string> list;
+        for (const auto& entry : fs::directory_iterator(path_))
+            list.push_back(entry.path().filename().string());
+        std::sort(list.begin(), list.end());
+        return list;
+    }
+
+private:
+    std::string path_;
+};
+
+std::string contents(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+} // namespace
+
+TEST(ZOLReadCheck, TurnsAwayWhatIsNotText) {
+    EXPECT_TRUE(ZOLReadCheck::acceptsData("<?xml version=\"1.0\"?>\n<Workbook/>"));
+    EXPECT_TRUE(ZOLReadCheck::acceptsData("\xEF\xBB\xBF<Workbook/>"));
+    EXPECT_TRUE(ZOLReadCheck::acceptsData("plain words, not XML")); // the reader's business
+    EXPECT_TRUE(ZOLReadCheck::acceptsData(std::string("\xFF\xFE<\0a\0/\0>\0", 10)));
+    EXPECT_FALSE(ZOLReadCheck::acceptsData(std::string("\xFF\xFE<\0a\0/\0>", 9)));
+    EXPECT_FALSE(ZOLReadCheck::acceptsData(""));
+    EXPECT_FALSE(ZOLReadCheck::acceptsData(std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16)));
+    EXPECT_FALSE(ZOLReadCheck::acceptsData(std::string("<Workbook>\0</Workbook>", 22)));
+}
+
+TEST(ZOLFileBytes, ReadsWholeFilesAndStopsPastTheLimit) {
+    TempFolder folder;
+    std::ofstream(folder / "a.zol", std::ios::binary) << "0123456789";
+    EXPECT_EQ(ZOLFileBytes::read(folder / "a.zol", 100), "0123456789");
+    EXPECT_EQ(ZOLFileBytes::read(folder / "a.zol", 4), "01234");
+    std::string error;
+    EXPECT_FALSE(ZOLFileBytes::read(folder / "missing.zol", 100, &error));
+    EXPECT_EQ(error, "No such file or directory");
+    EXPECT_FALSE(ZOLFileBytes::read((folder / "").string(), 100, &error));
+    EXPECT_EQ(error, "Is a directory");
+}
+
+TEST(ZOLAtomicFile, WritesNewFilesAndReplacesOldOnesWhole) {
+    TempFolder folder;
+    const fs::path path = folder / "job.zol";
+    ASSERT_TRUE(ZOLAtomicFile::write(path, "first"));
+    EXPECT_EQ(contents(path), "first");
+    ::chmod(path.c_str(), 0640);
+    ASSERT_TRUE(ZOLAtomicFile::write(path, "second, longer"));
+    EXPECT_EQ(contents(path), "second, longer");
+    struct stat info {};
+    ::stat(path.c_str(), &info);
+    EXPECT_EQ(info.st_mode & 0777, 0640u);
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"job.zol"});
+
+    // Saving through a link replaces the file it points to and keeps the link.
+    fs::create_symlink(path, folder / "link.zol");
+    ASSERT_TRUE(ZOLAtomicFile::write(folder / "link.zol", "third"));
+    EXPECT_TRUE(fs::is_symlink(folder / "link.zol"));
+    EXPECT_EQ(contents(path), "third");
+}
+
+TEST(ZOLAtomicFile, AFailedSaveLeavesNoHalfFileAndNoTemporaryFile) {
+    TempFolder folder;
+    std::string error;
+    // The destination is a folder.
+    fs::create_directory(folder / "taken.zol");
+    EXPECT_FALSE(ZOLAtomicFile::write(folder / "taken.zol", "x", &error));
+    EXPECT_EQ(error, "Is a directory");
+    // The folder does not exist.
+    EXPECT_FALSE(ZOLAtomicFile::write(folder / "none" / "a.zol", "x", &error));
+    EXPECT_EQ(error, "No such file or directory");
+    EXPECT_EQ(folder.names(), std::vector<std::string>{"taken.zol"});
+    // The disk fills up part-way through the write (here: the file size limit is reached).
+    std::ofstream(folder / "kept.zol") << "old";
+    const pid_t child = fork();
+    if (child == 0) {
+        signal(SIGXFSZ, SIG_IGN);
+        struct rlimit limit {
+            16, 16
+        };
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const bool written = ZOLAtomicFile::write(folder / "kept.zol", std::string(4096, 'x'));
+        _exit(written ? 1 : 0);
+    }
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+    EXPECT_EQ(contents(folder / "kept.zol"), "old");
+    EXPECT_EQ(folder.names(), (std::vector<std::string>{"kept.zol", "taken.zol"}));
+    // A folder the user may not write in (the check means nothing when running as root).
+    if (::geteuid() != 0) {
+        fs::create_directory(folder / "locked");
+        std::ofstream(folder / "locked" / "a.zol") << "old";
+        fs::permissions(folder / "locked", fs::perms::owner_read | fs::perms::owner_exec);
+        EXPECT_FALSE(ZOLAtomicFile::write(folder / "locked" / "a.zol", "new", &error));
+        EXPECT_EQ(error, "Permission denied");
+        EXPECT_EQ(contents(folder / "locked" / "a.zol"), "old");
+        fs::permissions(folder / "locked", fs::perms::owner_all);
+        EXPECT_EQ(fs::directory_iterator(folder / "locked")->path().filename(), "a.zol");
+    }
+}

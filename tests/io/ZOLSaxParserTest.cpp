@@ -1,0 +1,208 @@
+// The event parser under the three file readers: how it delivers text, and that a hostile
+// file ends in a parse error rather than in a load from outside, a blow-up or a hang.
+#include "io/ZOLSaxParser.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace {
+
+// Writes every event as one line: "<name attr=value", "'chunk'", "~'blank'", "</name", "END",
+// "ERROR".
+class EventLog : public ZOLSaxHandler {
+public:
+    std::vector<std::string> events;
+    int abortAfterStarts = -1;
+
+    void startElement(std::string_view name, const Attributes& attributes) override {
+        std::string line = "<" + std::string(name);
+        for (const auto& [key, value] : attributes)
+            line += " " + key + "=" + value;
+        events.push_back(line);
+        if (abortAfterStarts >= 0 && --abortAfterStarts < 0)
+            abortParse();
+    }
+    void characters(std::string_view chunk) override {
+        events.push_back("'" + std::string(chunk) + "'");
+    }
+    void ignorableWhitespace(std::string_view chunk) override {
+        events.push_back("~'" + std::string(chunk) + "'");
+    }
+    void endElement(std::string_view name) override { events.push_back("</" + std::string(name)); }
+    void endDocument() override { events.push_back("END"); }
+    void parseError() override { events.push_back("ERROR"); }
+};
+
+std::vector<std::string> parse(const std::string& xml, bool* ok = nullptr) {
+    EventLog log;
+    const bool result = ZOLSaxParser::parse(xml, log);
+    if (ok)
+        *ok = result;
+    return log.events;
+}
+
+std::string nested(int depth) {
+    std::string xml;
+    for (int i = 0; i < depth; ++i)
+        xml += "<a>";
+    for (int i = 0; i < depth; ++i)
+        xml += "</a>";
+    return xml;
+}
+
+using Events = std::vector<std::string>;
+
+} // namespace
+
+TEST(ZOLSaxParser, WhitespaceBetweenTagsArrivesAsOneChunkStartingWithTheNewline) {
+    const std::string xml = "<?xml version=\"1.0\"?>\n<Workbook>\n\t<Worksheets>\n\t\t<Worksheet "
+                            "Name=\"Main Floor\">\n\t\t</Worksheet>\n\t</Worksheets>\n</Workbook>";
+    EXPECT_EQ(parse(xml), (Events{"<Workbook", "'\n\t'", "<Worksheets", "'\n\t\t'",
+                                  "<Worksheet Name=Main Floor", "'\n\t\t'", "</Worksheet", "'\n\t'",
+                                  "</Worksheets", "'\n'", "</Workbook", "END"}));
+    // The same file saved with Windows line ends delivers the same chunks.
+    std::string crlf;
+    for (char c : xml)
+        crlf += c == '\n' ? std::string("\r\n") : std::string(1, c);
+    EXPECT_EQ(parse(crlf), parse(xml));
+}
+
+TEST(ZOLSaxParser, TextArrivesInTheChunksTheReadersGather) {
+    // An ASCII value is one chunk; an entity reference is a chunk of its own; a line break inside
+    // a value stays inside the chunk; a value that starts with a line break is its own chunk.
+    EXPECT_EQ(parse("<P>12.500000</P>"), (Events{"<P", "'12.500000'", "</P", "END"}));
+    EXPECT_EQ(parse("<P>Smith &amp; Sons</P>"),
+              (Events{"<P", "'Smith '", "'&'", "' Sons'", "</P", "END"}));
+    EXPECT_EQ(parse("<P>a\nb</P>"), (Events{"<P", "'a\nb'", "</P", "END"}));
+    EXPECT_EQ(parse("<P>\nb</P>"), (Events{"<P", "'\nb'", "</P", "END"}));
+    EXPECT_EQ(parse("<P>&#10;b</P>"), (Events{"<P", "'\n'", "'b'", "</P", "END"}));
+    // Text outside ASCII is delivered whole too, possibly split where the ASCII run ends.
+    Events accented = parse("<P>Caf\xC3\xA9 Ol\xC3\xA9</P>");
+    std::string joined;
+    for (std::size_t i = 1; i + 2 < accented.size(); ++i)
+        joined += accented[i].substr(1, accented[i].size() - 2);
+    EXPECT_EQ(joined, "Caf\xC3\xA9 Ol\xC3\xA9");
+    // CDATA sections and comments give no text.
+    EXPECT_EQ(parse("<P><![CDATA[x]]><!-- y --></P>"), (Events{"<P", "</P", "END"}));
+}
+
+TEST(ZOLSaxParser, AttributesAndNamesComeAsWritten) {
+    EXPECT_EQ(parse("<W Name=\"A &amp; B &lt;1&gt; &#38;&#x41;\"/>"),
+              (Events{"<W Name=A & B <1> &A", "</W", "END"}));
+    EXPECT_EQ(parse("<W Name='a&amp;#38;b'/>"), (Events{"<W Name=a&#38;b", "</W", "END"}));
+    // Prefixed names keep their prefix, declared or not; namespace declarations are not
+    // attributes.
+    EXPECT_EQ(parse("<x:Workbook xmlns:x=\"urn:x\" xsi:Name=\"n\"/>"),
+              (Events{"<x:Workbook xsi:Name=n", "</x:Workbook", "END"}));
+}
+
+TEST(ZOLSaxParser, MalformedDocumentsEndInOneParseError) {
+    bool ok = true;
+    EXPECT_EQ(parse("<Workbook><ProjectName>A & B</ProjectName></Workbook>", &ok).back(), "ERROR");
+    EXPECT_FALSE(ok);
+    // Events before the error are delivered; nothing after it.
+    EXPECT_EQ(parse("<a><b>x</b><c></a>"), (Events{"<a", "<b", "'x'", "</b", "<c", "ERROR"}));
+    EXPECT_EQ(parse(""), (Events{"ERROR"}));
+    EXPECT_EQ(parse("   "), (Events{"ERROR"}));
+    EXPECT_EQ(parse("<a></a><b/>").back(), "ERROR");
+    EXPECT_EQ(parse("<W Name=\"say \"hi\"\"/>").back(), "ERROR");
+    EXPECT_EQ(parse("<a>\xC3\x28</a>").back(), "ERROR");               // invalid UTF-8
+    EXPECT_EQ(parse(std::string("<a>\0</a>", 8)).back(), "ERROR");     // NUL character
+    EXPECT_EQ(parse("\x89PNG\r\n\x1a\n\0\0\0\rIHDR").back(), "ERROR"); // binary garbage
+    EXPECT_EQ(parse("<?xml version=\"1.0\"?>\n<Workbook>\n\t<Worksh").back(), "ERROR");
+    EXPECT_EQ(parse("<?xml version=\"1.0\" encoding=\"no-such\"?><a/>").back(), "ERROR");
+    // A declared 8-bit encoding is honoured.
+    EXPECT_EQ(parse("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?><a>\xE9</a>"),
+              (Events{"<a", "'\xC3\xA9'", "</a", "END"}));
+}
+
+TEST(ZOLSaxParser, NothingOutsideTheFileIsLoaded) {
+    // External entities (a local file, the network) and external DTDs are never fetched: any
+    // document type declaration is refused before its subset is read.
+    for (const std::string xml : {
+             "<!DOCTYPE a [<!ENTITY x SYSTEM \"file:///etc/passwd\">]><a>&x;</a>",
+             "<!DOCTYPE a [<!ENTITY x SYSTEM \"http://127.0.0.1:9/x\">]><a>&x;</a>",
+             "<!DOCTYPE a SYSTEM \"http://127.0.0.1:9/a.dtd\"><a/>",
+             "<!DOCTYPE a [<!ENTITY % p SYSTEM \"file:///etc/passwd\"> %p;]><a/>",
+             "<!DOCTYPE a><a/>",
+         }) {
+        const Events events = parse(xml);
+        EXPECT_EQ(events, (Events{"ERROR"})) << xml;
+    }
+    // An undeclared entity is a plain parse error.
+    EXPECT_EQ(parse("<a>&x;</a>"), (Events{"<a", "ERROR"}));
+}
+
+TEST(ZOLSaxParser, EntityExpansionCannotBlowUp) {
+    std::string laughs = "<?xml version=\"1.0\"?>\n<!DOCTYPE lolz [\n<!ENTITY lol \"lol\">\n";
+    for (int i = 1; i <= 9; ++i)
+        laughs += "<!ENTITY lol" + std::to_string(i) + " \"" + [&] {
+            std::string s;
+            for (int k = 0; k < 10; ++k)
+                s += "&lol" + (i == 1 ? std::string() : std::to_string(i - 1)) + ";";
+            return s;
+        }() + "\">\n";
+    laughs += "]>\n<lolz>&lol9;</lolz>";
+    EXPECT_EQ(parse(laughs), (Events{"ERROR"}));
+}
+
+TEST(ZOLSaxParser, DeepNestingIsRefusedByTheParsersDepthLimit) {
+    bool ok = false;
+    parse(nested(200), &ok);
+    EXPECT_TRUE(ok);
+    EXPECT_EQ(parse(nested(100000)).back(), "ERROR");
+}
+
+TEST(ZOLSaxParser, OversizedAndAttributeFloodedDocumentsAreRefusedQuickly) {
+    std::string big = "<a>";
+    big.append(ZOLSaxParser::kMaxDocumentBytes, 'x');
+    big += "</a>";
+    EXPECT_EQ(parse(big), (Events{"ERROR"}));
+
+    // Hundreds of thousands of attributes on one tag, or of namespace declarations, would keep
+    // the parser busy for minutes; they are refused before parsing.
+    std::string attributes = "<a";
+    for (int i = 0; i < 200000; ++i)
+        attributes += " a" + std::to_string(i) + "=''";
+    attributes += "/>";
+    std::string declarations = "<a>";
+    for (int i = 0; i < 250; ++i)
+        declarations += "<b xmlns:p" + std::to_string(i) + "=\"urn:" + std::to_string(i) + "\">";
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(parse(attributes), (Events{"ERROR"}));
+    EXPECT_EQ(parse(declarations), (Events{"ERROR"}));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+
+    // The limits leave room for ordinary files: "=" in text does not count, and a tag may carry
+    // a few hundred attributes.
+    std::string equals = "<a>";
+    equals.append(10000, '=');
+    equals += "</a>";
+    EXPECT_TRUE(ZOLSaxParser::withinMarkupLimits(equals));
+    std::string many = "<a";
+    for (int i = 0; i < ZOLSaxParser::kMaxAttributesPerTag; ++i)
+        many += " a" + std::to_string(i) + "=\"\"";
+    many += "/>";
+    EXPECT_TRUE(ZOLSaxParser::withinMarkupLimits(many));
+    EXPECT_FALSE(ZOLSaxParser::withinMarkupLimits(many + "<b c='' " + many.substr(2)));
+}
+
+TEST(ZOLSaxParser, AHandlerCanStopTheParse) {
+    EventLog log;
+    log.abortAfterStarts = 1;
+    EXPECT_FALSE(ZOLSaxParser::parse("<a><b><c/></b></a>", log));
+    EXPECT_EQ(log.events, (Events{"<a", "<b", "ERROR"}));
+
+    // A handler that throws does not unwind through the parser; the exception arrives after it.
+    class Thrower : public EventLog {
+        void startElement(std::string_view, const Attributes&) override {
+            throw std::runtime_error("full");
+        }
+    } thrower;
+    EXPECT_THROW(ZOLSaxParser::parse("<a><b/></a>", thrower), std::runtime_error);
+    EXPECT_TRUE(thrower.events.empty());
+}
