@@ -2,6 +2,7 @@
 JOBS      ?= 2
 BUILD     ?= build
 ASAN      ?= build-asan
+FUZZ      ?= build-fuzz
 WERROR    := $(if $(CI),ON,OFF)
 CMAKE_GEN := -G Ninja
 
@@ -34,7 +35,16 @@ test-asan: deps $(ASAN)/build.ninja
 	cd $(ASAN) && ASAN_OPTIONS=detect_leaks=1:halt_on_error=1 \
 	    UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 ctest --output-on-failure -j $(JOBS)
 
-test: test-core test-asan
+# The libFuzzer targets of the file readers (clang, sanitizers on). `make test` builds them so
+# that CI proves they build; scripts/run-fuzz runs one.
+$(FUZZ)/build.ninja: | deps
+	CC=clang CXX=clang++ cmake -S . -B $(FUZZ) $(CMAKE_GEN) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	    -DZOL_BUILD_FUZZ=ON -DZOL_BUILD_UI=OFF -DZOL_BUILD_BENCH=OFF
+
+fuzz: deps $(FUZZ)/build.ninja
+	cmake --build $(FUZZ) -j $(JOBS) --target fuzzers
+
+test: test-core test-asan fuzz
 
 bench: build
 	@for b in $(BUILD)/bench/*; do echo "== $$b"; $$b; done
@@ -43,4 +53,4 @@ format:
 	clang-format -i $$(git ls-files '*.cpp' '*.h')
 
 clean:
-	rm -rf $(BUILD) $(ASAN)
+	rm -rf $(BUILD) $(ASAN) $(FUZZ)

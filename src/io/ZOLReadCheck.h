@@ -15,6 +15,8 @@ public:
 
     static bool acceptsData(std::string_view bytes);
 
+    // What every reader says when a file's XML cannot be read.
+    static constexpr const char* kOpenErrorMessage = "There was an error opening the file.";
     // What the price list window and the job summary screen say when a file is refused.
     static constexpr const char* kWrongFormatMessage =
         "There was an error opening the file. The file may be corrupted or of the wrong format.";

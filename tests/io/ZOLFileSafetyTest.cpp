@@ -2,6 +2,7 @@
 #include "io/ZOLAtomicFile.h"
 #include "io/ZOLFileBytes.h"
 #include "io/ZOLReadCheck.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -17,36 +18,9 @@
 namespace fs = std::filesystem;
 
 namespace {
-
-class TempFolder {
-public:
-    TempFolder() {
-        std::string pattern = (fs::temp_directory_path() / "zol-files-XXXXXX").string();
-        path_ = mkdtemp(pattern.data());
-    }
-    ~TempFolder() {
-        std::error_code ec;
-        fs::permissions(path_, fs::perms::owner_all, ec);
-        fs::remove_all(path_, ec);
-    }
-    fs::path operator/(const std::string& name) const { return fs::path(path_) / name; }
-    std::vector<std::string> names() const {
-        std::vector<std::string> list;
-        for (const auto& entry : fs::directory_iterator(path_))
-            list.push_back(entry.path().filename().string());
-        std::sort(list.begin(), list.end());
-        return list;
-    }
-
-private:
-    std::string path_;
-};
-
-std::string contents(const fs::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), {}};
+std::string contents(const std::string& path) {
+    return TempFolder::contents(path);
 }
-
 } // namespace
 
 TEST(ZOLReadCheck, TurnsAwayWhatIsNotText) {
@@ -68,13 +42,13 @@ TEST(ZOLFileBytes, ReadsWholeFilesAndStopsPastTheLimit) {
     std::string error;
     EXPECT_FALSE(ZOLFileBytes::read(folder / "missing.zol", 100, &error));
     EXPECT_EQ(error, "No such file or directory");
-    EXPECT_FALSE(ZOLFileBytes::read((folder / "").string(), 100, &error));
+    EXPECT_FALSE(ZOLFileBytes::read(folder / "", 100, &error));
     EXPECT_EQ(error, "Is a directory");
 }
 
 TEST(ZOLAtomicFile, WritesNewFilesAndReplacesOldOnesWhole) {
     TempFolder folder;
-    const fs::path path = folder / "job.zol";
+    const std::string path = folder / "job.zol";
     ASSERT_TRUE(ZOLAtomicFile::write(path, "first"));
     EXPECT_EQ(contents(path), "first");
     ::chmod(path.c_str(), 0640);
@@ -100,7 +74,7 @@ TEST(ZOLAtomicFile, AFailedSaveLeavesNoHalfFileAndNoTemporaryFile) {
     EXPECT_FALSE(ZOLAtomicFile::write(folder / "taken.zol", "x", &error));
     EXPECT_EQ(error, "Is a directory");
     // The folder does not exist.
-    EXPECT_FALSE(ZOLAtomicFile::write(folder / "none" / "a.zol", "x", &error));
+    EXPECT_FALSE(ZOLAtomicFile::write(folder / "none/a.zol", "x", &error));
     EXPECT_EQ(error, "No such file or directory");
     EXPECT_EQ(folder.names(), std::vector<std::string>{"taken.zol"});
     // The disk fills up part-way through the write (here: the file size limit is reached).
@@ -123,11 +97,11 @@ TEST(ZOLAtomicFile, AFailedSaveLeavesNoHalfFileAndNoTemporaryFile) {
     // A folder the user may not write in (the check means nothing when running as root).
     if (::geteuid() != 0) {
         fs::create_directory(folder / "locked");
-        std::ofstream(folder / "locked" / "a.zol") << "old";
+        std::ofstream(folder / "locked/a.zol") << "old";
         fs::permissions(folder / "locked", fs::perms::owner_read | fs::perms::owner_exec);
-        EXPECT_FALSE(ZOLAtomicFile::write(folder / "locked" / "a.zol", "new", &error));
+        EXPECT_FALSE(ZOLAtomicFile::write(folder / "locked/a.zol", "new", &error));
         EXPECT_EQ(error, "Permission denied");
-        EXPECT_EQ(contents(folder / "locked" / "a.zol"), "old");
+        EXPECT_EQ(contents(folder / "locked/a.zol"), "old");
         fs::permissions(folder / "locked", fs::perms::owner_all);
         EXPECT_EQ(fs::directory_iterator(folder / "locked")->path().filename(), "a.zol");
     }

@@ -1,0 +1,72 @@
+#include "io/ZOLPriceFileReader.h"
+
+#include "io/ZOLReadCheck.h"
+#include "io/ZOLSaxParser.h"
+#include "model/ZOLPriceItem.h"
+#include "model/ZOLPricing.h"
+#include "platform/ZOLAlerts.h"
+
+ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPricing& pricing) {
+    if (!ZOLReadCheck::acceptsData(bytes)) {
+        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
+        return ZOLReadStatus::Refused;
+    }
+    ZOLPriceFileReader reader(pricing);
+    return ZOLSaxParser::parse(bytes, reader) ? ZOLReadStatus::Read : ZOLReadStatus::ParseError;
+}
+
+ZOLPriceFileReader::ZOLPriceFileReader(ZOLPricing& pricing) : pricing_(pricing) {}
+ZOLPriceFileReader::~ZOLPriceFileReader() = default;
+
+void ZOLPriceFileReader::startElement(std::string_view name, const Attributes&) {
+    if (name == "PriceItems")
+        pricing_.clear();
+    else if (name == "PriceItem")
+        item_ = std::make_shared<ZOLPriceItem>();
+    else if (name == "PartSize")
+        property_ = 81;
+    else if (name == "PartType")
+        property_ = 82;
+    else if (name == "Price")
+        property_ = 83;
+}
+
+void ZOLPriceFileReader::characters(std::string_view chunk) {
+    if (chunk.empty() || chunk.front() == '\n')
+        return;
+    if (!text_)
+        text_.emplace();
+    text_->append(chunk);
+}
+
+void ZOLPriceFileReader::ignorableWhitespace(std::string_view chunk) {
+    if (text_ && chunk == " ")
+        text_->append(chunk);
+}
+
+void ZOLPriceFileReader::endElement(std::string_view name) {
+    if (name == "PriceItem") {
+        if (item_) {
+            if (pricing_.priceItems().size() >= kMaxPriceItems) {
+                abortParse();
+                return;
+            }
+            pricing_.addPriceItem(item_);
+        }
+        // The item is finished: the end tags that close the list carry no value for it, so
+        // the last price of the file is kept as written.
+        item_.reset();
+    } else if (item_) {
+        item_->setValue(text_, property_);
+    }
+    text_.reset();
+}
+
+void ZOLPriceFileReader::endDocument() {
+    item_.reset();
+    text_.reset();
+}
+
+void ZOLPriceFileReader::parseError() {
+    ZOLAlerts::run(ZOLReadCheck::kOpenErrorMessage, "", {"OK"});
+}

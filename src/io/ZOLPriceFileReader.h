@@ -1,0 +1,43 @@
+#pragma once
+#include "io/ZOLReadStatus.h"
+#include "io/ZOLSaxHandler.h"
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+class ZOLPriceItem;
+class ZOLPricing;
+
+// Reads a price file (".zp") into the price list of the price list window. The file's
+// "PriceItems" element empties the list and its items are appended in file order, so after a
+// good read the list holds exactly the file's items, without the defaults. A file without a
+// "PriceItems" element leaves the list as it was; after a parse error the items read so far
+// stay in the list.
+class ZOLPriceFileReader : public ZOLSaxHandler {
+public:
+    // A price list longer than this is not a price file; it is reported like a parse error.
+    static constexpr int32_t kMaxPriceItems = 10000;
+
+    // Opens a price file's bytes as the price list window does: bytes that fail the open check
+    // (ZOLReadCheck) give the wrong-format alert, then the XML is read into `pricing`.
+    static ZOLReadStatus readPriceData(std::string_view bytes, ZOLPricing& pricing);
+
+    explicit ZOLPriceFileReader(ZOLPricing& pricing);
+    ~ZOLPriceFileReader() override;
+
+    void startElement(std::string_view name, const Attributes& attributes) override;
+    void characters(std::string_view chunk) override;
+    void ignorableWhitespace(std::string_view chunk) override;
+    void endElement(std::string_view name) override;
+    void endDocument() override;
+    void parseError() override;
+
+private:
+    ZOLPricing& pricing_;
+    std::shared_ptr<ZOLPriceItem> item_;
+    std::optional<std::string> text_;
+    int32_t property_ = 0;
+};
