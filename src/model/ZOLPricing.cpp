@@ -4,60 +4,60 @@
 #include "io/ZOLXMLWriter.h"
 
 ZOLPricing::ZOLPricing() {
-  std::vector<std::shared_ptr<ZOLPriceItem>> items;
-  for (int32_t size : {4, 6, 8, 10, 12}) {
-    for (int32_t type = 0; type <= 11; ++type) {
-      if (ZOLWallData::getValidSizeWithBlockType(type, size))
-        items.push_back(std::make_shared<ZOLPriceItem>(size, type, 0.0));
+    std::vector<std::shared_ptr<ZOLPriceItem>> items;
+    for (int32_t size : {4, 6, 8, 10, 12}) {
+        for (int32_t type = 0; type <= 11; ++type) {
+            if (ZOLWallData::getValidSizeWithBlockType(type, size))
+                items.push_back(std::make_shared<ZOLPriceItem>(size, type, 0.0));
+        }
     }
-  }
-  for (int32_t type = 12; type <= 16; ++type)
-    items.push_back(std::make_shared<ZOLPriceItem>(type, 0.0));
-  priceItems_ = std::move(items);
+    for (int32_t type = 12; type <= 16; ++type)
+        items.push_back(std::make_shared<ZOLPriceItem>(type, 0.0));
+    priceItems_ = std::move(items);
 }
 
-void ZOLPricing::clear() { priceItems_ = {}; }
+void ZOLPricing::clear() {
+    priceItems_ = {};
+}
 
 void ZOLPricing::addPriceItem(std::shared_ptr<ZOLPriceItem> item) {
-  std::vector<std::shared_ptr<ZOLPriceItem>> items = priceItems_;
-  items.push_back(std::move(item));
-  priceItems_ = std::move(items);
+    std::vector<std::shared_ptr<ZOLPriceItem>> items = priceItems_;
+    items.push_back(std::move(item));
+    priceItems_ = std::move(items);
 }
 
-double ZOLPricing::getPriceForItemType(int32_t type,
-                                       int32_t withItemSize) const {
-  if (!ZOLWallData::getValidSizeWithBlockType(type, withItemSize))
+double ZOLPricing::getPriceForItemType(int32_t type, int32_t withItemSize) const {
+    if (!ZOLWallData::getValidSizeWithBlockType(type, withItemSize))
+        return 0.0;
+    // Extenders, HV clips and calora sticks are priced whatever size is asked
+    // for. Pravex and pelmo are stored under size 12 yet looked up by the size
+    // asked for, so only a look-up at 12 finds them; price lists in the field
+    // depend on this.
+    const bool anySize = type == 12 || type == 13 || type == 14;
+    for (const auto& item : priceItems_) {
+        if (item && item->partType() == type && (anySize || item->partSize() == withItemSize))
+            return item->price();
+    }
     return 0.0;
-  // Extenders, HV clips and calora sticks are priced whatever size is asked
-  // for. Pravex and pelmo are stored under size 12 yet looked up by the size
-  // asked for, so only a look-up at 12 finds them; price lists in the field
-  // depend on this.
-  const bool anySize = type == 12 || type == 13 || type == 14;
-  for (const auto &item : priceItems_) {
-    if (item && item->partType() == type &&
-        (anySize || item->partSize() == withItemSize))
-      return item->price();
-  }
-  return 0.0;
 }
 
 std::string ZOLPricing::getPartialXMLString() const {
-  std::string out = "\t<PricingData>\n\t\t<PriceItems>\n";
-  for (const auto &item : priceItems_) {
-    if (item)
-      out += item->getXMLString(3);
-  }
-  out += "\t\t</PriceItems>\n\t</PricingData>\n";
-  return out;
+    std::string out = "\t<PricingData>\n\t\t<PriceItems>\n";
+    for (const auto& item : priceItems_) {
+        if (item)
+            out += item->getXMLString(3);
+    }
+    out += "\t\t</PriceItems>\n\t</PricingData>\n";
+    return out;
 }
 
 std::string ZOLPricing::getFullXMLString() const {
-  std::string out = ZOLXMLWriter::openDocument("Pricing");
-  out += "\t<PriceItems>\n";
-  for (const auto &item : priceItems_) {
-    if (item)
-      out += item->getXMLString(2);
-  }
-  out += "\t</PriceItems>\n</Pricing>";
-  return out;
+    std::string out = ZOLXMLWriter::openDocument("Pricing");
+    out += "\t<PriceItems>\n";
+    for (const auto& item : priceItems_) {
+        if (item)
+            out += item->getXMLString(2);
+    }
+    out += "\t</PriceItems>\n</Pricing>";
+    return out;
 }

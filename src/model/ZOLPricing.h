@@ -11,29 +11,27 @@
 // defaults is shadowed by them.
 class ZOLPricing {
 public:
-  // The default list: every valid block shape and the buck per size (4 to 12
-  // inches), then the five sizeless accessories; 44 items, all at 0.0.
-  ZOLPricing();
-  // Empties the list.
-  void clear();
+    // The default list: every valid block shape and the buck per size (4 to 12
+    // inches), then the five sizeless accessories; 44 items, all at 0.0.
+    ZOLPricing();
+    // Empties the list.
+    void clear();
 
-  const std::vector<std::shared_ptr<ZOLPriceItem>> &priceItems() const {
-    return priceItems_;
-  }
-  void setPriceItems(std::vector<std::shared_ptr<ZOLPriceItem>> value) {
-    priceItems_ = std::move(value);
-  }
+    const std::vector<std::shared_ptr<ZOLPriceItem>>& priceItems() const { return priceItems_; }
+    void setPriceItems(std::vector<std::shared_ptr<ZOLPriceItem>> value) {
+        priceItems_ = std::move(value);
+    }
 
-  // Appends the item; an item with the same key earlier in the list keeps
-  // winning.
-  void addPriceItem(std::shared_ptr<ZOLPriceItem> item);
-  double getPriceForItemType(int32_t type, int32_t withItemSize) const;
+    // Appends the item; an item with the same key earlier in the list keeps
+    // winning.
+    void addPriceItem(std::shared_ptr<ZOLPriceItem> item);
+    double getPriceForItemType(int32_t type, int32_t withItemSize) const;
 
-  // The "PricingData" element of the workbook file.
-  std::string getPartialXMLString() const;
-  // The stand-alone price file.
-  std::string getFullXMLString() const;
+    // The "PricingData" element of the workbook file.
+    std::string getPartialXMLString() const;
+    // The stand-alone price file.
+    std::string getFullXMLString() const;
 
 private:
-  std::vector<std::shared_ptr<ZOLPriceItem>> priceItems_;
+    std::vector<std::shared_ptr<ZOLPriceItem>> priceItems_;
 };
