@@ -57,8 +57,8 @@ public:
     static std::string getManHourHTML(const std::shared_ptr<ZOLManHours>& manHours,
                                       const std::string& projectInfo);
     static std::string getOpeningsHTML(const std::shared_ptr<ZOLOpenings>& openings,
-                                       const std::string& projectInfo,
-                                       int32_t currentOpeningPage, int32_t totalOpeningPages);
+                                       const std::string& projectInfo, int32_t currentOpeningPage,
+                                       int32_t totalOpeningPages);
     static std::string getRebarHTML(const std::shared_ptr<ZOLRebar>& rebar,
                                     const std::string& projectInfo);
     static std::string getTiltHTML(const std::shared_ptr<ZOLTilt>& tilt,

@@ -7,9 +7,8 @@
 
 const std::array<const char*, 10>& ZOLPrintSettings::keys() {
     static const std::array<const char*, 10> all = {
-        kPrintAllWorksheets, kPrintConcrete, kPrintManHour,    kPrintOpenings,
-        kPrintRebar,         kPrintTilt,     kPrintWall,       kPrintSummary,
-        kPrintJobSummary,    kPrintProjectNotes};
+        kPrintAllWorksheets, kPrintConcrete, kPrintManHour, kPrintOpenings,   kPrintRebar,
+        kPrintTilt,          kPrintWall,     kPrintSummary, kPrintJobSummary, kPrintProjectNotes};
     return all;
 }
 
@@ -76,8 +75,8 @@ int32_t ZOLPrintSettings::getPageCount() const {
     int32_t perWorksheet = int32_t{printConcrete_} + 2 * int32_t{printManHour_} +
                            int32_t{printOpenings_} + int32_t{printRebar_} + int32_t{printTilt_} +
                            int32_t{printWall_};
-    int32_t pages = printAllWorksheets_ ? ZOLNumeric::wrapMul(perWorksheet, numberOfWorksheets_)
-                                        : perWorksheet;
+    int32_t pages =
+        printAllWorksheets_ ? ZOLNumeric::wrapMul(perWorksheet, numberOfWorksheets_) : perWorksheet;
     pages = ZOLNumeric::wrapAdd(pages, int32_t{printSummary_} + int32_t{printJobSummary_} +
                                            int32_t{printProjectNotes_});
     return pages;

@@ -80,8 +80,7 @@ bool insideFolder(const QString& canonicalFolder, const QString& path) {
 class RequestGuard : public QWebEngineUrlRequestInterceptor {
 public:
     RequestGuard(QString canonicalFolder, RequestLog& log, QObject* parent)
-        : QWebEngineUrlRequestInterceptor(parent), folder_(std::move(canonicalFolder)),
-          log_(log) {}
+        : QWebEngineUrlRequestInterceptor(parent), folder_(std::move(canonicalFolder)), log_(log) {}
 
     void interceptRequest(QWebEngineUrlRequestInfo& info) override {
         const QUrl url = info.requestUrl();
@@ -171,8 +170,7 @@ private:
 };
 
 QPageLayout letterWithoutMargins() {
-    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait,
-                       QMarginsF(0, 0, 0, 0));
+    return QPageLayout(QPageSize(QPageSize::Letter), QPageLayout::Portrait, QMarginsF(0, 0, 0, 0));
 }
 
 } // namespace
@@ -196,10 +194,9 @@ void ZOLReportRenderer::prepareApplication() {
     // Without a display there is no GPU to draw with: draw in software from the start instead
     // of probing for one.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    const bool headless =
-        platform == "offscreen" || platform == "minimal" ||
-        (platform.isEmpty() && qEnvironmentVariableIsEmpty("DISPLAY") &&
-         qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"));
+    const bool headless = platform == "offscreen" || platform == "minimal" ||
+                          (platform.isEmpty() && qEnvironmentVariableIsEmpty("DISPLAY") &&
+                           qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"));
     if (headless) {
         QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
         if (!flags.contains("--disable-gpu"))
@@ -255,6 +252,10 @@ ZOLReportRenderer::ZOLReportRenderer(const QString& resourcesDirectory, QObject*
     // The page background is the estimate's artwork: it must print.
     settings->setAttribute(QWebEngineSettings::PrintElementBackgrounds, true);
     settings->setAttribute(QWebEngineSettings::AutoLoadImages, true);
+    // The report asks for Arial; where it is not installed a sans-serif face stands in rather
+    // than the engine's serif default.
+    settings->setFontFamily(QWebEngineSettings::StandardFont,
+                            settings->fontFamily(QWebEngineSettings::SansSerifFont));
 
     connect(d->page, &QWebEnginePage::loadFinished, this, [this](bool ok) {
         if (!d->pendingLoad)

@@ -20,10 +20,12 @@
 
 namespace {
 
-// The browser engine reports its set-up (graphics back end, start-up flags) as information;
-// a command-line helper keeps stderr for real trouble.
+// The browser engine reports its set-up (graphics back end, start-up flags, no GPU without a
+// display) as information and warnings; a command-line helper keeps stderr for real trouble.
+// ZOL_RENDER_DEBUG=1 shows everything.
 void quietMessages(QtMsgType type, const QMessageLogContext&, const QString& message) {
-    if (type == QtDebugMsg || type == QtInfoMsg)
+    static const bool verbose = !qEnvironmentVariableIsEmpty("ZOL_RENDER_DEBUG");
+    if (!verbose && (type == QtDebugMsg || type == QtInfoMsg || type == QtWarningMsg))
         return;
     std::fprintf(stderr, "zolest-render: %s\n", message.toLocal8Bit().constData());
 }
