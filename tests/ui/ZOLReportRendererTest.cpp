@@ -1,7 +1,7 @@
 // The report renderer: report text in, PDF sheets out, with the report's user texts kept from
 // running script or reaching the network.
-#include "report/ZOLPrintData.h"
 #include "ui/ZOLReportRenderer.h"
+#include "report/ZOLPrintData.h"
 
 #include <QApplication>
 #include <QEventLoop>
@@ -89,10 +89,10 @@ private slots:
                                   "url=" +
                                   remote + "/refresh\"><span style=\"background:url(" + remote +
                                   "/bg.png)\">x</span><img src=\"file:///etc/hostname\">";
-        const std::string html =
-            ZOLPrintData::getHeaderHTML() +
-            "<div class=\"page\">\n<div class=\"content notes\">\n<div><p>" + notes +
-            "</p></div>\n</div>\n</div>\n" + ZOLPrintData::getFooterHTML();
+        const std::string html = ZOLPrintData::getHeaderHTML() +
+                                 "<div class=\"page\">\n<div class=\"content notes\">\n<div><p>" +
+                                 notes + "</p></div>\n</div>\n</div>\n" +
+                                 ZOLPrintData::getFooterHTML();
 
         ZOLReportRenderer renderer(resources());
         QString error;
