@@ -1,0 +1,139 @@
+#include "ui/ZOLPricingWindowController.h"
+
+#include "io/ZOLAtomicFile.h"
+#include "io/ZOLFileBytes.h"
+#include "io/ZOLFormat.h"
+#include "io/ZOLPriceFileReader.h"
+#include "io/ZOLReadCheck.h"
+#include "io/ZOLSaxParser.h"
+#include "io/ZOLText.h"
+#include "model/ZOLPriceItem.h"
+#include "model/ZOLPricing.h"
+#include "platform/ZOLAlerts.h"
+#include "ui/ZOLFilePanels.h"
+#include "ui_ZOLPricing.h"
+
+#include <QFile>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QStyledItemDelegate>
+
+namespace {
+QString qs(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Price cells take what the entry fields take: typing is cleaned to digits and full stops
+// as it happens, and the price is the number the text starts with.
+class PriceDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                          const QModelIndex&) const override {
+        auto* edit = new QLineEdit(parent);
+        edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        QObject::connect(edit, &QLineEdit::textEdited, edit, [edit](const QString& text) {
+            const auto cleaned = ZOLText::entryFieldText(text.toStdString());
+            if (cleaned && qs(*cleaned) != text)
+                edit->setText(qs(*cleaned));
+        });
+        return edit;
+    }
+};
+} // namespace
+
+ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricing> pricingData,
+                                                       QWidget* parent)
+    : QDialog(parent), ui_(std::make_unique<Ui::ZOLPricing>()),
+      pricingData_(std::move(pricingData)) {
+    ui_->setupUi(this);
+    QHeaderView* header = ui_->priceTable->horizontalHeader();
+    header->setSectionResizeMode(kPartColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(kPriceColumn, QHeaderView::Fixed);
+    header->resizeSection(kPriceColumn, 120);
+    if (QTableWidgetItem* item = ui_->priceTable->horizontalHeaderItem(kPriceColumn))
+        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    ui_->priceTable->setItemDelegateForColumn(kPriceColumn, new PriceDelegate(ui_->priceTable));
+
+    connect(ui_->priceTable, &QTableWidget::itemChanged, this,
+            &ZOLPricingWindowController::priceEdited);
+    connect(ui_->openPricing, &QPushButton::clicked, this,
+            &ZOLPricingWindowController::openPricing);
+    connect(ui_->savePricing, &QPushButton::clicked, this,
+            &ZOLPricingWindowController::savePricing);
+    connect(ui_->done, &QPushButton::clicked, this, &QDialog::accept);
+    loadData();
+}
+
+ZOLPricingWindowController::~ZOLPricingWindowController() = default;
+
+void ZOLPricingWindowController::loadData() {
+    loading_ = true;
+    QTableWidget* table = ui_->priceTable;
+    const auto& items =
+        pricingData_ ? pricingData_->priceItems() : std::vector<std::shared_ptr<ZOLPriceItem>>{};
+    table->setRowCount(static_cast<int>(items.size()));
+    for (size_t i = 0; i < items.size(); ++i) {
+        const int row = static_cast<int>(i);
+        auto* part = new QTableWidgetItem(qs(items[i]->getPartText()));
+        part->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+        table->setItem(row, kPartColumn, part);
+        auto* price = new QTableWidgetItem(qs(ZOLFormat::format("%.2f", items[i]->price())));
+        price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
+        price->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        table->setItem(row, kPriceColumn, price);
+    }
+    loading_ = false;
+}
+
+void ZOLPricingWindowController::priceEdited(QTableWidgetItem* item) {
+    if (loading_ || !pricingData_ || item->column() != kPriceColumn)
+        return;
+    const auto& items = pricingData_->priceItems();
+    const auto row = static_cast<size_t>(item->row());
+    if (row >= items.size())
+        return;
+    const std::string text = item->text().toStdString();
+    // An emptied cell keeps the price it had.
+    if (!text.empty())
+        items[row]->setPrice(ZOLText::leadingDouble(text));
+    loading_ = true;
+    item->setText(qs(ZOLFormat::format("%.2f", items[row]->price())));
+    loading_ = false;
+}
+
+void ZOLPricingWindowController::openPricing() {
+    const QString path = ZOLFilePanels::openFile(this, tr("Open Price List"), "zp");
+    if (path.isEmpty()) {
+        loadData();
+        return;
+    }
+    openPricingFile(path);
+}
+
+void ZOLPricingWindowController::openPricingFile(const QString& path) {
+    auto bytes =
+        ZOLFileBytes::read(QFile::encodeName(path).toStdString(), ZOLSaxParser::kMaxDocumentBytes);
+    // A file that cannot be read at all (a folder, no permission) is as foreign as one of the
+    // wrong format; the reader turns the wrong format away itself.
+    if (!bytes)
+        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
+    else if (pricingData_)
+        ZOLPriceFileReader::readPriceData(*bytes, *pricingData_);
+    loadData();
+}
+
+void ZOLPricingWindowController::savePricing() {
+    const QString path =
+        ZOLFilePanels::saveFile(this, tr("Save Price List"), "zp", tr("Price List.zp"));
+    if (!path.isEmpty())
+        savePricingFile(path);
+}
+
+void ZOLPricingWindowController::savePricingFile(const QString& path) {
+    if (!pricingData_)
+        return;
+    // The price list window does not report a failed write.
+    ZOLAtomicFile::write(QFile::encodeName(path).toStdString(), pricingData_->getFullXMLString());
+}

@@ -1,0 +1,43 @@
+#pragma once
+#include <QDialog>
+
+#include <memory>
+
+class ZOLPricing;
+class QTableWidgetItem;
+namespace Ui {
+class ZOLPricing;
+}
+
+// The price list window (layout "ZOLPricing"): every price item of the workbook's price list
+// with its price, edited in place, and the price files (.zp) that carry a price list from one
+// estimate to the next.
+class ZOLPricingWindowController : public QDialog {
+    Q_OBJECT
+
+public:
+    explicit ZOLPricingWindowController(std::shared_ptr<ZOLPricing> pricingData,
+                                        QWidget* parent = nullptr);
+    ~ZOLPricingWindowController() override;
+
+    const std::shared_ptr<ZOLPricing>& pricingData() const { return pricingData_; }
+    // Refills the table from the price list.
+    void loadData();
+
+    // The price file commands; each asks for a file with the panel.
+    void openPricing();
+    void savePricing();
+    // The same with the file already chosen (the panels call these).
+    void openPricingFile(const QString& path);
+    void savePricingFile(const QString& path);
+
+    static constexpr int kPartColumn = 0;
+    static constexpr int kPriceColumn = 1;
+
+private:
+    void priceEdited(QTableWidgetItem* item);
+
+    std::unique_ptr<Ui::ZOLPricing> ui_;
+    std::shared_ptr<ZOLPricing> pricingData_;
+    bool loading_ = false;
+};

@@ -1,0 +1,103 @@
+// The print settings window: the live page count and the choices kept only on accept.
+#include "platform/ZOLPreferences.h"
+#include "ui/ZOLPrintSettingsWindowController.h"
+
+#include <QCheckBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QtTest>
+
+namespace {
+const char* kBoxes[] = {
+    "printWallCheckbox",    "printOpeningsCheckbox",   "printConcreteCheckbox",
+    "printRebarCheckbox",   "printTiltCheckbox",       "printManHourCheckbox",
+    "printSummaryCheckbox", "printJobSummaryCheckbox", "printProjectNotesCheckbox"};
+
+QString pageCount(ZOLPrintSettingsWindowController& window) {
+    return window.findChild<QLabel*>("pageCount")->text();
+}
+
+void click(QWidget& window, const char* name) {
+    auto* button = window.findChild<QAbstractButton*>(name);
+    QVERIFY2(button, name);
+    // On the box or the dot itself: a check box spans its column but reacts only to its box
+    // and its label.
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+}
+} // namespace
+
+class ZOLPrintSettingsWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void pageCountFollowsEveryChoice() {
+        auto preferences = std::make_shared<ZOLMemoryPreferences>();
+        ZOLPrintSettingsWindowController window(nullptr, preferences);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        window.setNumberOfWorksheets(3);
+        // First use: everything off, the current worksheet.
+        QCOMPARE(pageCount(window), QString("Page Count: 0"));
+        QVERIFY(window.findChild<QRadioButton*>("currentWorksheet")->isChecked());
+
+        click(window, "printManHourCheckbox");
+        QCOMPARE(pageCount(window), QString("Page Count: 2")); // man hours take two pages
+        for (const char* box : kBoxes)
+            if (std::string(box) != "printManHourCheckbox")
+                click(window, box);
+        QCOMPARE(pageCount(window), QString("Page Count: 10"));
+        click(window, "allWorksheets");
+        QCOMPARE(pageCount(window), QString("Page Count: 24"));
+        QCOMPARE(window.getPageCount(), 24);
+
+        // Only the summary pages: three, whatever the worksheets.
+        for (const char* box :
+             {"printWallCheckbox", "printOpeningsCheckbox", "printConcreteCheckbox",
+              "printRebarCheckbox", "printTiltCheckbox", "printManHourCheckbox"})
+            click(window, box);
+        QCOMPARE(pageCount(window), QString("Page Count: 3"));
+        window.setNumberOfWorksheets(7);
+        QCOMPARE(pageCount(window), QString("Page Count: 3"));
+    }
+
+    void choicesAreKeptOnlyWhenAccepted() {
+        auto preferences = std::make_shared<ZOLMemoryPreferences>();
+        {
+            ZOLPrintSettingsWindowController window(nullptr, preferences);
+            window.show();
+            click(window, "printWallCheckbox");
+            click(window, "allWorksheets");
+            click(window, "cancelButton");
+            QVERIFY(!window.acceptChanges());
+            QVERIFY(!preferences->boolForKey("PrintWall"));
+            QVERIFY(!preferences->boolForKey("PrintAllWorksheets"));
+        }
+        {
+            ZOLPrintSettingsWindowController window(nullptr, preferences);
+            window.show();
+            QVERIFY(!window.findChild<QCheckBox*>("printWallCheckbox")->isChecked());
+            click(window, "printWallCheckbox");
+            click(window, "printProjectNotesCheckbox");
+            click(window, "allWorksheets");
+            click(window, "acceptButton");
+            QVERIFY(window.acceptChanges());
+            const auto settings = window.getZolPrintSettings();
+            QCOMPARE(settings.size(), size_t(10));
+            QVERIFY(settings.at("PrintWall") && settings.at("PrintProjectNotes") &&
+                    settings.at("PrintAllWorksheets"));
+            QVERIFY(!settings.at("PrintConcrete"));
+            QVERIFY(preferences->boolForKey("PrintWall"));
+            QVERIFY(preferences->boolForKey("PrintAllWorksheets"));
+        }
+        // The next print starts from the kept choices.
+        ZOLPrintSettingsWindowController window(nullptr, preferences);
+        window.setNumberOfWorksheets(2);
+        QVERIFY(window.findChild<QCheckBox*>("printWallCheckbox")->isChecked());
+        QVERIFY(window.findChild<QRadioButton*>("allWorksheets")->isChecked());
+        QCOMPARE(pageCount(window), QString("Page Count: 3"));
+    }
+};
+
+QTEST_MAIN(ZOLPrintSettingsWindowTest)
+#include "ZOLPrintSettingsWindowTest.moc"
