@@ -1,0 +1,64 @@
+#include "model/ZOLOpening.h"
+
+#include "calc/ZOLCalculatorMaster.h"
+#include "calc/ZOLOpeningsCalculator.h"
+#include "io/ZOLFormat.h"
+#include "io/ZOLText.h"
+
+using OC = ZOLOpeningsCalculator;
+
+double ZOLOpening::getNetSquareFeet() const {
+    // The buck allowance belongs to the linear feet only, never to the area.
+    return ZOLCalculatorMaster::calculateSqFtWithWidth(openingWidth_, openingHeight_, true);
+}
+
+double ZOLOpening::getNetLinearFeet() const {
+    return OC::calculateLFOpeningsWithOpeningHeight(openingHeight_, openingWidth_);
+}
+
+double ZOLOpening::getTotalSquareFeet() const {
+    return getNetSquareFeet() * numberOfOpenings_;
+}
+
+double ZOLOpening::getTotalLinearFeet() const {
+    return getNetLinearFeet() * numberOfOpenings_;
+}
+
+double ZOLOpening::getTotalLinearFeetOfBuck() const {
+    return OC::calculateLFZolBuckWithOpeningHeight(openingHeight_, openingWidth_, useSill_) *
+           numberOfOpenings_;
+}
+
+std::string ZOLOpening::getXMLString() const {
+    using F = ZOLFormat;
+    std::string xml = "\t\t\t\t\t<Opening>\n";
+    xml += F::format("\t\t\t\t\t\t<RowNumber>%d</RowNumber>\n", rowNumber_);
+    xml += F::format("\t\t\t\t\t\t<NumberOfOpenings>%d</NumberOfOpenings>\n", numberOfOpenings_);
+    xml += F::format("\t\t\t\t\t\t<OpeningWidth>%f</OpeningWidth>\n", openingWidth_);
+    xml += F::format("\t\t\t\t\t\t<OpeningHeight>%f</OpeningHeight>\n", openingHeight_);
+    xml += F::format("\t\t\t\t\t\t<UseSill>%@</UseSill>\n", ZOLText::boolText(useSill_));
+    xml += "\t\t\t\t\t</Opening>\n";
+    return xml;
+}
+
+void ZOLOpening::setValue(const std::optional<std::string>& value, int32_t forProperty) {
+    switch (forProperty) {
+    case 24:
+        rowNumber_ = ZOLText::leadingInt(value);
+        break;
+    case 25:
+        numberOfOpenings_ = ZOLText::leadingInt(value);
+        break;
+    case 26:
+        openingWidth_ = ZOLText::leadingDouble(value);
+        break;
+    case 27:
+        openingHeight_ = ZOLText::leadingDouble(value);
+        break;
+    case 28:
+        useSill_ = ZOLText::boolValue(value);
+        break;
+    default: // another record's element
+        break;
+    }
+}

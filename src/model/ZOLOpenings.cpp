@@ -1,0 +1,48 @@
+#include "model/ZOLOpenings.h"
+
+ZOLOpenings::ZOLOpenings() {
+    clear();
+}
+
+void ZOLOpenings::clear() {
+    openingList_ = {};
+}
+
+void ZOLOpenings::addOpeningObject(std::shared_ptr<ZOLOpening> opening) {
+    std::vector<std::shared_ptr<ZOLOpening>> list = openingList_;
+    list.push_back(std::move(opening));
+    setOpeningList(std::move(list));
+}
+
+double ZOLOpenings::getTotalSquareFeet() const {
+    double total = 0.0;
+    for (const auto& opening : openingList_)
+        if (opening)
+            total += opening->getTotalSquareFeet();
+    return total;
+}
+
+double ZOLOpenings::getTotalLinearFeet() const {
+    double total = 0.0;
+    for (const auto& opening : openingList_)
+        if (opening)
+            total += opening->getTotalLinearFeet();
+    return total;
+}
+
+double ZOLOpenings::getTotalLinearFeetOfBuck() const {
+    double total = 0.0;
+    for (const auto& opening : openingList_)
+        if (opening)
+            total += opening->getTotalLinearFeetOfBuck();
+    return total;
+}
+
+std::string ZOLOpenings::getXMLString() const {
+    std::string xml = "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n";
+    for (const auto& opening : openingList_)
+        if (opening)
+            xml += opening->getXMLString();
+    xml += "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n";
+    return xml;
+}

@@ -1,0 +1,444 @@
+#include "model/ZOLWall.h"
+
+#include "calc/ZOLCalculatorMaster.h"
+#include "calc/ZOLWallCalculator.h"
+#include "calc/ZOLWallData.h"
+#include "io/ZOLFormat.h"
+#include "io/ZOLNumeric.h"
+#include "io/ZOLText.h"
+
+using WC = ZOLWallCalculator;
+using WD = ZOLWallData;
+using N = ZOLNumeric;
+
+ZOLWall::ZOLWall() {
+    clear();
+}
+
+void ZOLWall::clear() {
+    blockSize_ = 8;
+    wallHeight_ = 8.0;
+    wallLength_ = 0.0;
+    insideCornerLocations_ = 0;
+    outsideCornerLocations_ = 0;
+    angleLocations_ = 0;
+    tBlockLocations_ = 0;
+    linearFeetCorbel_ = 0.0;
+    linearFeetCurb_ = 0.0;
+    curbCornerLocations_ = 0;
+    linearFeetTapered_ = 0.0;
+    linearFeetRadius_ = 0.0;
+    radius_ = 10;
+    sqftOpenings_ = 0.0;
+    linearFeetBuck_ = 0.0;
+    straightBlockAdded_ = 0;
+    cornerBlockAdded_ = 0;
+    caloraStickLayers_ = 0;
+    useCutBlock_ = false;
+    useHalfBlock_ = false;
+    useExtenders_ = false;
+    usePravex_ = false;
+    pelmoBrickHeight_ = 0.0;
+    pelmoBrickLength_ = 0.0;
+    pelmoPerBlock_ = 0;
+    wastePercentage_ = 0.02;
+}
+
+// ---- Geometry
+
+double ZOLWall::getTotalWallHeight() const {
+    return WC::calculateWallHeightWithBaseHeight(wallHeight_, useHalfBlock_, useCutBlock_,
+                                                 useExtenders_);
+}
+
+int32_t ZOLWall::getRows() const {
+    // Full courses of the base height only: the half, cut and extender courses have their own
+    // counts.
+    return WC::calculateRowsWithWallHeight(wallHeight_);
+}
+
+double ZOLWall::getLinearFeetOfInsideCorners() const {
+    return WC::calculateLFInsideCornersWithNumberOfInsideCorners(insideCornerLocations_);
+}
+
+double ZOLWall::getLinearFeetOfOutsideCorners() const {
+    return WC::calculateLFOutsideCornersWithBlockSize(blockSize_, outsideCornerLocations_);
+}
+
+double ZOLWall::getLinearFeetOfAngles() const {
+    return WC::calculateLFAnglesWithBlockSize(blockSize_, angleLocations_);
+}
+
+double ZOLWall::getLinearFeetOfTBlock() const {
+    return WC::calculateLFTsWithBlockSize(blockSize_, tBlockLocations_);
+}
+
+double ZOLWall::linearFeetOfCornersAndTs() const {
+    return getLinearFeetOfInsideCorners() + getLinearFeetOfOutsideCorners() +
+           getLinearFeetOfTBlock();
+}
+
+double ZOLWall::getLinearFeetOfStraightBlock() const {
+    // Angle blocks sit in the straight run; corners, Ts and the curved part do not.
+    return wallLength_ - linearFeetOfCornersAndTs() - linearFeetRadius_;
+}
+
+int32_t ZOLWall::getOpeningsInBlockCount() const {
+    return WC::calculateOpeningDeductionWithSqFtOfOpenings(sqftOpenings_);
+}
+
+double ZOLWall::getGrossSqFtOfWall() const {
+    return WC::calculateGrossSqFtWithTotalWallHeight(getTotalWallHeight(), wallLength_);
+}
+
+double ZOLWall::getNetSqFtOfWall() const {
+    return getGrossSqFtOfWall() - sqftOpenings_;
+}
+
+// ---- Blocks
+
+int32_t ZOLWall::oneCourseStraightBlocks() const {
+    return WC::calculateStraightBlockWithWallLength(wallLength_, linearFeetOfCornersAndTs(),
+                                                    linearFeetRadius_, 1, 0, 0);
+}
+
+int32_t ZOLWall::oneCourseCornerBlocks() const {
+    // The curb corners replace corner blocks in the top course as well.
+    return WC::calculateCornerBlocksWithInsideCorners(
+        insideCornerLocations_, outsideCornerLocations_, 1, curbCornerLocations_, 0);
+}
+
+int32_t ZOLWall::getStraightBlocks() const {
+    // An angle block stands in for three quarters of a straight block; curb, tapered and
+    // corbel blocks replace straight blocks one for one, and so do the openings.
+    int32_t oneForOne = N::wrapAdd(getOpeningsInBlockCount(), getStraightCurbBlocks());
+    oneForOne = N::wrapAdd(oneForOne, getTaperedBlocks());
+    oneForOne = N::wrapAdd(oneForOne, getCorbelBlocks());
+    const int32_t toDeduct = N::toInt(getAngleBlocks() * 0.75 + oneForOne);
+    // Cut blocks are cut from extra straight blocks.
+    const int32_t added = N::wrapAdd(straightBlockAdded_, getStraightCutBlocks());
+    const int32_t blocks = WC::calculateStraightBlockWithWallLength(
+        wallLength_, linearFeetOfCornersAndTs(), linearFeetRadius_, getRows(), toDeduct, added);
+    // Only straight blocks carry the waste allowance.
+    return N::ceilToInt((wastePercentage_ + 1.0) * blocks);
+}
+
+int32_t ZOLWall::getStraightHalfBlocks() const {
+    return useHalfBlock_ ? oneCourseStraightBlocks() : 0;
+}
+
+int32_t ZOLWall::getStraightCutBlocks() const {
+    // Two cut pieces come from one block; an odd count loses its remainder.
+    return useCutBlock_ ? N::wrapDiv(oneCourseStraightBlocks(), 2) : 0;
+}
+
+int32_t ZOLWall::getCornerBlocks() const {
+    const int32_t added = N::wrapAdd(cornerBlockAdded_, getCornerCutBlocks());
+    return WC::calculateCornerBlocksWithInsideCorners(
+        insideCornerLocations_, outsideCornerLocations_, getRows(), curbCornerLocations_, added);
+}
+
+int32_t ZOLWall::getCornerHalfBlocks() const {
+    return useHalfBlock_ ? oneCourseCornerBlocks() : 0;
+}
+
+int32_t ZOLWall::getCornerCutBlocks() const {
+    return useCutBlock_ ? N::wrapDiv(oneCourseCornerBlocks(), 2) : 0;
+}
+
+int32_t ZOLWall::getAngleBlocks() const {
+    if (!WD::getValidSizeWithBlockType(4, blockSize_))
+        return 0;
+    const int32_t added =
+        useHalfBlock_ ? WC::calculateAddedAngleOrTBlockWithNumberOfLocations(angleLocations_) : 0;
+    return WC::calculateAngleOrTBlockWithNumberOfLocations(angleLocations_, getRows(), added);
+}
+
+int32_t ZOLWall::getTBlocks() const {
+    if (!WD::getValidSizeWithBlockType(7, blockSize_))
+        return 0;
+    const int32_t added =
+        useHalfBlock_ ? WC::calculateAddedAngleOrTBlockWithNumberOfLocations(tBlockLocations_) : 0;
+    return WC::calculateAngleOrTBlockWithNumberOfLocations(tBlockLocations_, getRows(), added);
+}
+
+int32_t ZOLWall::getStraightCurbBlocks() const {
+    if (!WD::getValidSizeWithBlockType(5, blockSize_))
+        return 0;
+    return WC::calculateStraightCurbBlockWithLinearFeet(linearFeetCurb_);
+}
+
+int32_t ZOLWall::getCornerCurbBlocks() const {
+    return WD::getValidSizeWithBlockType(6, blockSize_) ? curbCornerLocations_ : 0;
+}
+
+int32_t ZOLWall::getCorbelBlocks() const {
+    if (!WD::getValidSizeWithBlockType(8, blockSize_))
+        return 0;
+    return WC::calculateCorbelOrTaperedBlockWithLinearFeet(linearFeetCorbel_);
+}
+
+int32_t ZOLWall::getTaperedBlocks() const {
+    if (!WD::getValidSizeWithBlockType(9, blockSize_))
+        return 0;
+    return WC::calculateCorbelOrTaperedBlockWithLinearFeet(linearFeetTapered_);
+}
+
+int32_t ZOLWall::getRadiusBlocks() const {
+    if (!WD::getValidSizeWithBlockType(10, blockSize_))
+        return 0;
+    return WC::calculateRadiusBlockWithLinearFeetOfRadius(linearFeetRadius_, getRows());
+}
+
+// ---- Accessories
+
+int32_t ZOLWall::getZolBuck() const {
+    return WC::calculateBuckWithLinearFeet(linearFeetBuck_);
+}
+
+int32_t ZOLWall::getExtenders() const {
+    return useExtenders_ ? WC::calculateExtendersWithWallLength(wallLength_) : 0;
+}
+
+int32_t ZOLWall::getHVClips() const {
+    return WC::calculateHVClipsWithStraightBlock(
+        getStraightBlocks(), getStraightHalfBlocks(), getCornerBlocks(), getCornerHalfBlocks(),
+        getAngleBlocks(), getTBlocks(), getStraightCurbBlocks(), getCornerCurbBlocks(),
+        getCorbelBlocks(), getTaperedBlocks(), getRadiusBlocks());
+}
+
+int32_t ZOLWall::getCaloraSticks() const {
+    return WC::calculateR9WithStraightBlock(
+        getStraightBlocks(), getStraightHalfBlocks(), getCornerBlocks(), getCornerHalfBlocks(),
+        getAngleBlocks(), getTBlocks(), getStraightCurbBlocks(), getCornerCurbBlocks(),
+        getCorbelBlocks(), getTaperedBlocks(), getRadiusBlocks(), caloraStickLayers_);
+}
+
+int32_t ZOLWall::getCaloraStickBundles() const {
+    return WC::calculateBundlesWithBlockSize(blockSize_, 14, getCaloraSticks());
+}
+
+double ZOLWall::getCaloraStickWeight() const {
+    return WC::calculateBlockWeightWithBlockSize(blockSize_, 14, getCaloraSticks());
+}
+
+int32_t ZOLWall::getPravexes() const {
+    // Counted along the corbel course whether or not Pravex is ticked.
+    return WC::calculatePravex(linearFeetCorbel_);
+}
+
+int32_t ZOLWall::getPelmos() const {
+    return WC::calculatePelmosWithBrickHeight(pelmoBrickHeight_, pelmoBrickLength_, pelmoPerBlock_);
+}
+
+// ---- Shipping, concrete and steel
+
+double ZOLWall::getTrucks() const {
+    auto b = [this](int32_t type) { return getTotalBundlesWithPartType(type); };
+    return WC::calculateTrucksWithBlockSize(blockSize_, b(0), b(1), b(2), b(3), b(4), b(7), b(5),
+                                            b(6), b(8), b(9), b(10), b(11), b(12), b(13), b(14));
+}
+
+double ZOLWall::getConcreteYards() const {
+    return WC::calculateCubicYardsOfConcreteWithWallHeight(
+        getTotalWallHeight(), wallLength_, blockSize_, sqftOpenings_, caloraStickLayers_);
+}
+
+double ZOLWall::getConcreteMeters() const {
+    return ZOLCalculatorMaster::convertCubicYardsToMeters(getConcreteYards());
+}
+
+int32_t ZOLWall::getBracing() const {
+    return WC::calculateBracingWithWallLength(wallLength_);
+}
+
+double ZOLWall::getLinearFeetRebar() const {
+    return WC::calculateRebarWithWallHeight(getTotalWallHeight(), wallLength_);
+}
+
+double ZOLWall::getTotalPartsWeight() const {
+    double weight = 0.0;
+    for (int32_t type = 0; type < WD::kPartTypeCount; ++type)
+        weight += getApproximateWeightWithPartType(type, false);
+    return weight;
+}
+
+// ---- Per part type
+
+int32_t ZOLWall::getPartCountWithPartType(int32_t partType) const {
+    switch (partType) {
+    case 0:
+        return getStraightBlocks();
+    case 1:
+        return getStraightHalfBlocks();
+    case 2:
+        return getCornerBlocks();
+    case 3:
+        return getCornerHalfBlocks();
+    case 4:
+        return getAngleBlocks();
+    case 5:
+        return getStraightCurbBlocks();
+    case 6:
+        return getCornerCurbBlocks();
+    case 7:
+        return getTBlocks();
+    case 8:
+        return getCorbelBlocks();
+    case 9:
+        return getTaperedBlocks();
+    case 11:
+        return getZolBuck();
+    case 12:
+        return getExtenders();
+    case 13:
+        return getHVClips();
+    case 14:
+        return getCaloraSticks();
+    case 15:
+        return getPravexes();
+    case 16:
+        return getPelmos();
+    default:
+        // Radius blocks are shown by getRadiusBlocks but are never ordered by part type: they
+        // take no bundles, weight, trailer space or summary line.
+        return 0;
+    }
+}
+
+int32_t ZOLWall::getTotalBundlesWithPartType(int32_t partType) const {
+    return WC::calculateBundlesWithBlockSize(blockSize_, partType,
+                                             getPartCountWithPartType(partType));
+}
+
+int32_t ZOLWall::getPartCountRoundedToFullBundlesWithPartType(int32_t partType) const {
+    return N::wrapMul(getTotalBundlesWithPartType(partType),
+                      WD::getBundleSizeWithBlockType(partType, blockSize_));
+}
+
+double ZOLWall::getApproximateWeightWithPartType(int32_t partType, bool rounded) const {
+    const int32_t quantity = rounded ? getPartCountRoundedToFullBundlesWithPartType(partType)
+                                     : getPartCountWithPartType(partType);
+    return WC::calculateBlockWeightWithBlockSize(blockSize_, partType, quantity);
+}
+
+// ---- File
+
+std::string ZOLWall::getXMLString() const {
+    using F = ZOLFormat;
+    std::string xml = "\t\t\t<WallData>\n";
+    xml += F::format("\t\t\t\t<BlockSize>%@</BlockSize>\n",
+                     WD::getBasicSizeStringWithBlockSize(blockSize_));
+    xml += F::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    xml += F::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    xml += F::format("\t\t\t\t<InsideCornerLocations>%d</InsideCornerLocations>\n",
+                     insideCornerLocations_);
+    xml += F::format("\t\t\t\t<OutsideCornerLocations>%d</OutsideCornerLocations>\n",
+                     outsideCornerLocations_);
+    xml += F::format("\t\t\t\t<AngleLocations>%d</AngleLocations>\n", angleLocations_);
+    xml += F::format("\t\t\t\t<TBlockLocations>%d</TBlockLocations>\n", tBlockLocations_);
+    xml += F::format("\t\t\t\t<LinearFeetCorbel>%f</LinearFeetCorbel>\n", linearFeetCorbel_);
+    xml += F::format("\t\t\t\t<LinearFeetCurb>%f</LinearFeetCurb>\n", linearFeetCurb_);
+    xml +=
+        F::format("\t\t\t\t<CurbCornerLocations>%d</CurbCornerLocations>\n", curbCornerLocations_);
+    xml += F::format("\t\t\t\t<LinearFeetTapered>%f</LinearFeetTapered>\n", linearFeetTapered_);
+    xml += F::format("\t\t\t\t<LinearFeetRadius>%f</LinearFeetRadius>\n", linearFeetRadius_);
+    xml += F::format("\t\t\t\t<Radius>%d</Radius>\n", radius_);
+    xml += F::format("\t\t\t\t<SquareFeetOpenings>%f</SquareFeetOpenings>\n", sqftOpenings_);
+    xml += F::format("\t\t\t\t<LinearFeetBuck>%f</LinearFeetBuck>\n", linearFeetBuck_);
+    xml += F::format("\t\t\t\t<StraightBlockAdded>%d</StraightBlockAdded>\n", straightBlockAdded_);
+    xml += F::format("\t\t\t\t<CornerBlockAdded>%d</CornerBlockAdded>\n", cornerBlockAdded_);
+    xml += F::format("\t\t\t\t<CaloraStickLayers>%d</CaloraStickLayers>\n", caloraStickLayers_);
+    xml += F::format("\t\t\t\t<UseCutBlock>%@</UseCutBlock>\n", ZOLText::boolText(useCutBlock_));
+    xml += F::format("\t\t\t\t<UseHalfBlock>%@</UseHalfBlock>\n", ZOLText::boolText(useHalfBlock_));
+    xml += F::format("\t\t\t\t<UseExtenders>%@</UseExtenders>\n", ZOLText::boolText(useExtenders_));
+    xml += F::format("\t\t\t\t<UsePravex>%@</UsePravex>\n", ZOLText::boolText(usePravex_));
+    xml += F::format("\t\t\t\t<PelmoBrickHeight>%f</PelmoBrickHeight>\n", pelmoBrickHeight_);
+    xml += F::format("\t\t\t\t<PelmoBrickLength>%f</PelmoBrickLength>\n", pelmoBrickLength_);
+    xml += F::format("\t\t\t\t<PelmoPerBlock>%d</PelmoPerBlock>\n", pelmoPerBlock_);
+    xml += "\t\t\t</WallData>\n";
+    return xml;
+}
+
+void ZOLWall::setValue(const std::optional<std::string>& value, int32_t forProperty) {
+    using T = ZOLText;
+    switch (forProperty) {
+    case 45:
+        blockSize_ = WD::getBlockSizeWithBasicSizeString(value);
+        break;
+    case 46:
+        wallHeight_ = T::leadingDouble(value);
+        break;
+    case 47:
+        wallLength_ = T::leadingDouble(value);
+        break;
+    case 48:
+        insideCornerLocations_ = T::leadingInt(value);
+        break;
+    case 49:
+        outsideCornerLocations_ = T::leadingInt(value);
+        break;
+    case 50:
+        angleLocations_ = T::leadingInt(value);
+        break;
+    case 51:
+        tBlockLocations_ = T::leadingInt(value);
+        break;
+    case 52:
+        linearFeetCorbel_ = T::leadingDouble(value);
+        break;
+    case 53:
+        linearFeetCurb_ = T::leadingDouble(value);
+        break;
+    case 54:
+        curbCornerLocations_ = T::leadingInt(value);
+        break;
+    case 55:
+        linearFeetTapered_ = T::leadingDouble(value);
+        break;
+    case 56:
+        linearFeetRadius_ = T::leadingDouble(value);
+        break;
+    case 57:
+        radius_ = T::leadingInt(value);
+        break;
+    case 58:
+        sqftOpenings_ = T::leadingDouble(value);
+        break;
+    case 59:
+        linearFeetBuck_ = T::leadingDouble(value);
+        break;
+    case 60:
+        straightBlockAdded_ = T::leadingInt(value);
+        break;
+    case 61:
+        cornerBlockAdded_ = T::leadingInt(value);
+        break;
+    case 62:
+        caloraStickLayers_ = T::leadingInt(value);
+        break;
+    case 63:
+        useCutBlock_ = T::boolValue(value);
+        break;
+    case 64:
+        useHalfBlock_ = T::boolValue(value);
+        break;
+    case 65:
+        useExtenders_ = T::boolValue(value);
+        break;
+    case 66:
+        usePravex_ = T::boolValue(value);
+        break;
+    case 67:
+        pelmoBrickHeight_ = T::leadingDouble(value);
+        break;
+    case 68:
+        pelmoBrickLength_ = T::leadingDouble(value);
+        break;
+    case 69:
+        pelmoPerBlock_ = T::leadingInt(value);
+        break;
+    default: // another record's element
+        break;
+    }
+}

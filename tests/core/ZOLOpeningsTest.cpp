@@ -1,0 +1,115 @@
+// Openings: per-row area, perimeter and buck, the list's totals and its file element.
+#include "model/ZOLOpenings.h"
+#include "calc/ZOLOpeningsCalculator.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+
+namespace {
+std::shared_ptr<ZOLOpening> row(int32_t count, double width, double height, bool sill = true) {
+    auto opening = std::make_shared<ZOLOpening>();
+    opening->setNumberOfOpenings(count);
+    opening->setOpeningWidth(width);
+    opening->setOpeningHeight(height);
+    opening->setUseSill(sill);
+    return opening;
+}
+} // namespace
+
+TEST(ZOLOpenings, RowAreaPerimeterAndBuck) {
+    ZOLOpening fresh;
+    EXPECT_EQ(fresh.rowNumber(), 0);
+    EXPECT_EQ(fresh.numberOfOpenings(), 0);
+    EXPECT_TRUE(fresh.useSill());
+
+    auto window = row(2, 36, 48);
+    EXPECT_DOUBLE_EQ(window->getNetSquareFeet(), 12.0);
+    EXPECT_DOUBLE_EQ(window->getTotalSquareFeet(), 24.0);
+    EXPECT_DOUBLE_EQ(window->getNetLinearFeet(), 14.67);
+    EXPECT_DOUBLE_EQ(window->getTotalLinearFeet(), 29.34);
+    EXPECT_DOUBLE_EQ(window->getTotalLinearFeetOfBuck(), 29.34);
+    window->setUseSill(false); // head only
+    EXPECT_DOUBLE_EQ(window->getTotalLinearFeetOfBuck(), 2 * 11.67);
+    EXPECT_DOUBLE_EQ(window->getTotalLinearFeet(), 29.34);
+
+    auto noWidth = row(3, 0, 80);
+    EXPECT_EQ(noWidth->getTotalSquareFeet(), 0.0);
+    EXPECT_EQ(noWidth->getTotalLinearFeet(), 0.0);
+    EXPECT_EQ(noWidth->getTotalLinearFeetOfBuck(), 0.0);
+    EXPECT_EQ(row(0, 36, 48)->getTotalLinearFeetOfBuck(), 0.0);
+    EXPECT_EQ(ZOLOpeningsCalculator::calculateLFZolBuckWithOpeningHeight(0.0, 36, true), 0.0);
+    // Not range-checked, but defined.
+    EXPECT_TRUE(std::isnan(row(1, NAN, 48)->getTotalLinearFeet()));
+    EXPECT_GT(row(INT_MAX, 1e300, 1e300)->getTotalSquareFeet(), 0.0);
+}
+
+TEST(ZOLOpenings, ListTotalsAndAppending) {
+    ZOLOpenings openings;
+    EXPECT_EQ(openings.getTotalSquareFeet(), 0.0);
+    EXPECT_EQ(openings.getTotalLinearFeet(), 0.0);
+    EXPECT_EQ(openings.getTotalLinearFeetOfBuck(), 0.0);
+    openings.addOpeningObject(row(2, 36, 48));
+    const auto before = openings.openingList();
+    openings.addOpeningObject(row(1, 72, 80, false));
+    EXPECT_EQ(before.size(), 1u); // an earlier copy of the list is never changed
+    ASSERT_EQ(openings.openingList().size(), 2u);
+    EXPECT_DOUBLE_EQ(openings.getTotalSquareFeet(), 24.0 + 40.0);
+    EXPECT_DOUBLE_EQ(openings.getTotalLinearFeet(), 29.34 + (2 * 80 / 12.0 + 12 + 0.67));
+    EXPECT_DOUBLE_EQ(openings.getTotalLinearFeetOfBuck(), 29.34 + (2 * 80 / 12.0 + 6 + 0.67));
+    openings.clear();
+    EXPECT_TRUE(openings.openingList().empty());
+}
+
+TEST(ZOLOpenings, FileElements) {
+    ZOLOpenings openings;
+    EXPECT_EQ(openings.getXMLString(), "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n"
+                                       "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n");
+    auto first = row(2, 36, 48);
+    auto second = row(1, 72.5, 80, false);
+    second->setRowNumber(1);
+    openings.setOpeningList({first, second});
+    EXPECT_EQ(openings.getXMLString(), "\t\t\t<OpeningData>\n"
+                                       "\t\t\t\t<OpeningList>\n"
+                                       "\t\t\t\t\t<Opening>\n"
+                                       "\t\t\t\t\t\t<RowNumber>0</RowNumber>\n"
+                                       "\t\t\t\t\t\t<NumberOfOpenings>2</NumberOfOpenings>\n"
+                                       "\t\t\t\t\t\t<OpeningWidth>36.000000</OpeningWidth>\n"
+                                       "\t\t\t\t\t\t<OpeningHeight>48.000000</OpeningHeight>\n"
+                                       "\t\t\t\t\t\t<UseSill>true</UseSill>\n"
+                                       "\t\t\t\t\t</Opening>\n"
+                                       "\t\t\t\t\t<Opening>\n"
+                                       "\t\t\t\t\t\t<RowNumber>1</RowNumber>\n"
+                                       "\t\t\t\t\t\t<NumberOfOpenings>1</NumberOfOpenings>\n"
+                                       "\t\t\t\t\t\t<OpeningWidth>72.500000</OpeningWidth>\n"
+                                       "\t\t\t\t\t\t<OpeningHeight>80.000000</OpeningHeight>\n"
+                                       "\t\t\t\t\t\t<UseSill>false</UseSill>\n"
+                                       "\t\t\t\t\t</Opening>\n"
+                                       "\t\t\t\t</OpeningList>\n"
+                                       "\t\t\t</OpeningData>\n");
+}
+
+TEST(ZOLOpenings, RowValuesReadBack) {
+    ZOLOpening opening;
+    opening.setValue(std::string("3"), 24);
+    opening.setValue(std::string(" 4 windows"), 25);
+    opening.setValue(std::string("36.5"), 26);
+    opening.setValue(std::string("48in"), 27);
+    opening.setValue(std::string("false"), 28);
+    EXPECT_EQ(opening.rowNumber(), 3);
+    EXPECT_EQ(opening.numberOfOpenings(), 4);
+    EXPECT_EQ(opening.openingWidth(), 36.5);
+    EXPECT_EQ(opening.openingHeight(), 48.0);
+    EXPECT_FALSE(opening.useSill());
+    const std::string xml = opening.getXMLString();
+    for (int32_t foreign : {23, 29, 45, -1})
+        opening.setValue(std::string("9"), foreign);
+    EXPECT_EQ(opening.getXMLString(), xml);
+    opening.setValue(std::nullopt, 28);
+    opening.setValue(std::nullopt, 25);
+    EXPECT_FALSE(opening.useSill());
+    EXPECT_EQ(opening.numberOfOpenings(), 0);
+    opening.setValue(std::string("1"), 28);
+    EXPECT_TRUE(opening.useSill());
+}

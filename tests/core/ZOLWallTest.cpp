@@ -1,0 +1,388 @@
+// The wall take-off: worked examples of whole walls, the formulas' roundings and tables, the
+// file element, and inputs no screen would allow.
+#include "model/ZOLWall.h"
+#include "calc/ZOLWallCalculator.h"
+
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cmath>
+#include <regex>
+
+using WC = ZOLWallCalculator;
+
+namespace {
+
+ZOLWall wallOf(double length, int32_t size = 8) {
+    ZOLWall wall;
+    wall.setWallLength(length);
+    wall.setBlockSize(size);
+    return wall;
+}
+
+// Asks every question a take-off asks; under the sanitizer build any undefined step stops.
+double everyQuery(const ZOLWall& w) {
+    double sum = w.getTotalWallHeight() + w.getRows() + w.getLinearFeetOfStraightBlock() +
+                 w.getLinearFeetOfAngles() + w.getOpeningsInBlockCount() + w.getNetSqFtOfWall() +
+                 w.getRadiusBlocks() + w.getCaloraStickBundles() + w.getCaloraStickWeight() +
+                 w.getTrucks() + w.getConcreteMeters() + w.getBracing() + w.getLinearFeetRebar() +
+                 w.getTotalPartsWeight();
+    for (int32_t type = -1; type <= 17; ++type)
+        sum += w.getPartCountRoundedToFullBundlesWithPartType(type) +
+               w.getApproximateWeightWithPartType(type, true);
+    return sum;
+}
+
+} // namespace
+
+TEST(ZOLWall, ClearedWallOrdersNothing) {
+    ZOLWall wall;
+    EXPECT_EQ(wall.blockSize(), 8);
+    EXPECT_EQ(wall.radius(), 10);
+    EXPECT_EQ(wall.wastePercentage(), 0.02);
+    EXPECT_EQ(wall.getRows(), 6);
+    EXPECT_EQ(wall.getTotalWallHeight(), 8.0);
+    EXPECT_EQ(wall.getStraightBlocks(), 0);
+    EXPECT_EQ(wall.getCornerBlocks(), 0);
+    EXPECT_EQ(wall.getHVClips(), 0);
+    EXPECT_EQ(wall.getBracing(), 0);
+    EXPECT_EQ(wall.getConcreteYards(), 0.0);
+    EXPECT_EQ(wall.getLinearFeetRebar(), 0.0);
+    EXPECT_EQ(wall.getTrucks(), 0.0);
+    EXPECT_EQ(wall.getTotalPartsWeight(), 0.0);
+    wall.setWallLength(50);
+    wall.setUseCutBlock(true);
+    wall.clear();
+    EXPECT_EQ(wall.wallLength(), 0.0);
+    EXPECT_FALSE(wall.useCutBlock());
+}
+
+TEST(ZOLWall, HundredFeetOfEightInchWall) {
+    ZOLWall wall = wallOf(100);
+    EXPECT_EQ(wall.getStraightBlocks(), 153); // 150 plus 2 % waste
+    EXPECT_EQ(wall.getHVClips(), 500);        // two started boxes of 150 blocks
+    EXPECT_EQ(wall.getBracing(), 17);
+    EXPECT_DOUBLE_EQ(wall.getLinearFeetRebar(), 100 / 1.33 * 8 * 1.1 + 6 * 100 + 100);
+    EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27);
+    EXPECT_EQ(wall.getTotalBundlesWithPartType(0), 13);
+    EXPECT_EQ(wall.getPartCountRoundedToFullBundlesWithPartType(0), 156);
+    EXPECT_DOUBLE_EQ(wall.getApproximateWeightWithPartType(0, true), 156 * 7.5);
+    EXPECT_DOUBLE_EQ(wall.getTotalPartsWeight(), 153 * 7.5 + 500 * 0.072);
+    // 13 bundles of straight at 54.4 units and 2 boxes of clips at 11.
+    EXPECT_DOUBLE_EQ(wall.getTrucks(), (708.0 + 22.0) / 2520.0);
+
+    wall.setUseHalfBlock(true);
+    EXPECT_DOUBLE_EQ(wall.getTotalWallHeight(), 8.667);
+    EXPECT_EQ(wall.getRows(), 6);
+    EXPECT_EQ(wall.getStraightHalfBlocks(), 25);
+    EXPECT_DOUBLE_EQ(wall.getGrossSqFtOfWall(), 866.7);
+    EXPECT_EQ(wall.getStraightBlocks(), 153); // a half course is ordered separately
+
+    wall.setUseHalfBlock(false);
+    wall.setUseCutBlock(true);
+    EXPECT_EQ(wall.getStraightCutBlocks(), 12); // 25 in one course, two per block
+    EXPECT_EQ(wall.getStraightBlocks(), 166);   // 1.02 × (150 + 12)
+    wall.setUseExtenders(true);
+    EXPECT_EQ(wall.getExtenders(), 53); // 100 × 0.5 × 1.05
+    EXPECT_DOUBLE_EQ(wall.getTotalWallHeight(), 8.0 + 0.667 + 0.334);
+    EXPECT_EQ(wall.getRows(), 6);
+}
+
+TEST(ZOLWall, CornersAnglesAndTsPerSize) {
+    ZOLWall wall = wallOf(100, 10);
+    wall.setOutsideCornerLocations(4);
+    EXPECT_DOUBLE_EQ(wall.getLinearFeetOfOutsideCorners(), 24.0);
+    EXPECT_DOUBLE_EQ(wall.getLinearFeetOfStraightBlock(), 76.0);
+    EXPECT_EQ(wall.getCornerBlocks(), 24);
+    EXPECT_EQ(wall.getStraightBlocks(), 117); // ceil(1.02 × 114)
+    wall.setCurbCornerLocations(3);
+    wall.setUseCutBlock(true);
+    EXPECT_EQ(wall.getCornerCutBlocks(), 0); // (4 - 3) / 2
+    EXPECT_EQ(wall.getCornerBlocks(), 21);
+    EXPECT_EQ(wall.getCornerCurbBlocks(), 3);
+    wall.setCurbCornerLocations(40);
+    EXPECT_EQ(wall.getCornerBlocks(), 0); // clamped, never negative
+
+    wall.setTBlockLocations(5); // T-blocks are made in 6 and 8 inches only
+    EXPECT_EQ(wall.getTBlocks(), 0);
+    EXPECT_EQ(wall.getLinearFeetOfTBlock(), 0.0);
+
+    ZOLWall angles = wallOf(100, 8);
+    angles.setAngleLocations(3);
+    angles.setUseHalfBlock(true);
+    EXPECT_EQ(WC::calculateAddedAngleOrTBlockWithNumberOfLocations(3), 2);
+    EXPECT_EQ(angles.getAngleBlocks(), 20); // 3 × 6 rows + 2 for the half course
+    // Angles stay in the straight run but replace three quarters of a block each: 150 - 15.
+    EXPECT_EQ(angles.getStraightBlocks(), 138);
+    EXPECT_EQ(WC::calculateAddedAngleOrTBlockWithNumberOfLocations(0), 0);
+    EXPECT_EQ(WC::calculateAddedAngleOrTBlockWithNumberOfLocations(-4), 0);
+
+    const double outside[] = {60, 64, 68, 72, 76};
+    const double angle[] = {44, 35, 37, 0, 0};
+    for (int i = 0; i < 5; ++i) {
+        const int32_t size = 4 + 2 * i;
+        EXPECT_DOUBLE_EQ(WC::calculateLFOutsideCornersWithBlockSize(size, 3), 3 * outside[i] / 12);
+        EXPECT_DOUBLE_EQ(WC::calculateLFAnglesWithBlockSize(size, 3), 3 * angle[i] / 12);
+        EXPECT_DOUBLE_EQ(WC::calculateLFTsWithBlockSize(size, 3),
+                         size == 6 || size == 8 ? 11.0 : 0.0);
+    }
+    EXPECT_EQ(WC::calculateLFOutsideCornersWithBlockSize(9, 3), 0.0);
+    EXPECT_DOUBLE_EQ(WC::calculateLFInsideCornersWithNumberOfInsideCorners(2), 6.9);
+}
+
+TEST(ZOLWall, SpecialCoursesOnlyInTheirSizes) {
+    ZOLWall wall = wallOf(0, 6);
+    wall.setLinearFeetRadius(13.3);
+    EXPECT_EQ(wall.getRadiusBlocks(), 60);
+    EXPECT_EQ(wall.getPartCountWithPartType(10), 0); // shown, never ordered by type
+    EXPECT_EQ(wall.getHVClips(), 250);               // but they do take clips
+    wall.setBlockSize(8);
+    EXPECT_EQ(wall.getRadiusBlocks(), 0);
+
+    wall.setLinearFeetCorbel(10);
+    wall.setLinearFeetTapered(7);
+    wall.setLinearFeetCurb(9);
+    EXPECT_EQ(wall.getCorbelBlocks(), 3);
+    EXPECT_EQ(wall.getTaperedBlocks(), 2);
+    EXPECT_EQ(wall.getStraightCurbBlocks(), 3);
+    EXPECT_EQ(wall.getPravexes(), 3); // counted along the corbel, ticked or not
+    wall.setBlockSize(10);
+    EXPECT_EQ(wall.getCorbelBlocks(), 0);
+    EXPECT_EQ(wall.getTaperedBlocks(), 0);
+    EXPECT_EQ(wall.getStraightCurbBlocks(), 3);
+    EXPECT_EQ(wall.getPravexes(), 3);
+    wall.setBlockSize(12);
+    EXPECT_EQ(wall.getStraightCurbBlocks(), 0);
+
+    wall.setPelmoBrickHeight(2.6);
+    wall.setPelmoBrickLength(10);
+    for (int32_t perBlock : {0, 1, 3})
+        EXPECT_EQ(WC::calculatePelmosWithBrickHeight(2.6, 10, perBlock), 15) << perBlock;
+    wall.setPelmoPerBlock(2);
+    EXPECT_EQ(wall.getPelmos(), 10);
+    wall.setLinearFeetBuck(39.5);
+    EXPECT_EQ(wall.getZolBuck(), 10);
+    wall.setLinearFeetBuck(39.6);
+    EXPECT_EQ(wall.getZolBuck(), 11);
+}
+
+TEST(ZOLWall, OpeningsReplaceEightyFivePercentOfTheirBlocks) {
+    ZOLWall wall = wallOf(100);
+    wall.setSqftOpenings(53.3); // ten blocks of area, 8.5 of them saved
+    EXPECT_EQ(wall.getOpeningsInBlockCount(), 8);
+    EXPECT_EQ(wall.getStraightBlocks(), 145); // ceil(1.02 × 142)
+    EXPECT_DOUBLE_EQ(wall.getNetSqFtOfWall(), 800 - 53.3);
+    EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27 - (8 / 12.0) * 53.3 / 27);
+}
+
+TEST(ZOLWall, CaloraLayersNarrowTheCore) {
+    // Core width poured for sizes 4-12 (rows) and 0 to 5 layers (columns).
+    const int32_t expected[5][6] = {{4, 4, 4, 4, 4, 4},
+                                    {6, 4, 4, 4, 4, 4},
+                                    {8, 6, 4, 4, 4, 4},
+                                    {10, 8, 6, 4, 4, 4},
+                                    {12, 10, 8, 6, 4, 4}};
+    for (int i = 0; i < 5; ++i)
+        for (int32_t layers = 0; layers <= 5; ++layers) {
+            // 27 ft by 12 ft of wall pours exactly the core width in inches as cubic yards.
+            const double yards =
+                WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 4 + 2 * i, 0, layers);
+            EXPECT_NEAR(yards, expected[i][layers], 1e-9) << 4 + 2 * i << "/" << layers;
+        }
+    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 5, 0, 2), 5, 1e-9);
+    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 14, 0, 2), 14, 1e-9);
+    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 12, 0, -1), 12, 1e-9);
+
+    ZOLWall wall = wallOf(100);
+    wall.setCaloraStickLayers(2);
+    EXPECT_EQ(wall.getCaloraSticks(), 153 * 2 * 3);
+    EXPECT_EQ(wall.getCaloraStickBundles(), 26); // 918 / 36 = 25.5
+    EXPECT_DOUBLE_EQ(wall.getCaloraStickWeight(), 918 * 0.65);
+}
+
+TEST(ZOLWall, ClipsBundlesAndTrucks) {
+    EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(150, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), 250);
+    EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(151, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), 500);
+    // Half blocks count half, each halving dropping its remainder.
+    EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(149, 3, 0, 3, 0, 0, 0, 0, 0, 0, 0), 500);
+    EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(148, 3, 0, 1, 0, 0, 0, 0, 0, 0, 0), 250);
+    EXPECT_EQ(WC::calculateR9WithStraightBlock(10, 3, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2), 66);
+
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, 144), 12);
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, 145), 13);
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 10, 60), 0); // no radius blocks in 8"
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(4, 4, INT_MAX), 238609295);
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, INT_MIN), -178956969);
+    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, -5), 1); // any remainder adds one
+
+    // One bundle in each position at 8 and 6 inches: the space units each one takes.
+    const double units8[15] = {55, 55, 41, 41, 53, 41, 55, 55, 54, 55, 0, 14, 17, 11, 17};
+    const double units6[15] = {46, 46, 53, 53, 40, 41, 0, 0, 46, 46, 39, 12, 17, 11, 17};
+    for (int k = 0; k < 15; ++k) {
+        int32_t b[15] = {};
+        b[k] = 1;
+        auto trucks = [&b](int32_t size) {
+            return WC::calculateTrucksWithBlockSize(size, b[0], b[1], b[2], b[3], b[4], b[5], b[6],
+                                                    b[7], b[8], b[9], b[10], b[11], b[12], b[13],
+                                                    b[14]);
+        };
+        EXPECT_DOUBLE_EQ(trucks(8), units8[k] / 2520.0) << "position " << k;
+        EXPECT_DOUBLE_EQ(trucks(6), units6[k] / 2520.0) << "position " << k;
+    }
+    // Each bundle count is rounded up as a whole, not per bundle; nothing divides a loss.
+    EXPECT_DOUBLE_EQ(
+        WC::calculateTrucksWithBlockSize(8, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
+        109 / 2520.0);
+    EXPECT_EQ(WC::calculateTrucksWithBlockSize(8, -1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
+              -54.0);
+}
+
+TEST(ZOLWall, RowsAndRebarTruncate) {
+    EXPECT_EQ(WC::calculateRowsWithWallHeight(9.334), 7);
+    EXPECT_EQ(WC::calculateRowsWithWallHeight(9.3), 6);
+    EXPECT_EQ(WC::calculateRowsWithWallHeight(-2.0), -1);
+    EXPECT_EQ(WC::calculateRebarWithWallHeight(8, 0), 0.0);
+    EXPECT_EQ(WC::calculateRebarWithWallHeight(8, -10), 0.0);
+    EXPECT_EQ(WC::calculateBracingWithWallLength(-10), 0);
+    EXPECT_EQ(WC::calculateBracingWithWallLength(6.01), 2);
+    EXPECT_EQ(WC::calculateStraightBlockWithWallLength(10, 0, 0, 6, 100, 0), 0);
+}
+
+TEST(ZOLWall, UnreasonableInputsStayDefined) {
+    const double doubles[] = {NAN, INFINITY, -INFINITY, 1e300, -1e300, -5.0};
+    const int32_t ints[] = {INT_MAX, INT_MIN, -3};
+    for (double d : doubles) {
+        for (int32_t n : ints) {
+            ZOLWall w;
+            w.setWallLength(d);
+            w.setWallHeight(d);
+            w.setLinearFeetCorbel(d);
+            w.setLinearFeetCurb(d);
+            w.setLinearFeetTapered(d);
+            w.setLinearFeetRadius(d);
+            w.setSqftOpenings(d);
+            w.setLinearFeetBuck(d);
+            w.setPelmoBrickHeight(d);
+            w.setPelmoBrickLength(d);
+            w.setWastePercentage(d);
+            w.setInsideCornerLocations(n);
+            w.setOutsideCornerLocations(n);
+            w.setAngleLocations(n);
+            w.setTBlockLocations(n);
+            w.setCurbCornerLocations(n);
+            w.setStraightBlockAdded(n);
+            w.setCornerBlockAdded(n);
+            w.setCaloraStickLayers(n);
+            w.setUseCutBlock(true);
+            w.setUseHalfBlock(true);
+            w.setUseExtenders(true);
+            for (int32_t size : {4, 6, 8, 10, 12, 5, INT_MIN, INT_MAX}) {
+                w.setBlockSize(size);
+                everyQuery(w);
+            }
+        }
+    }
+    ZOLWall nan = wallOf(NAN);
+    EXPECT_EQ(nan.getStraightBlocks(), 0);
+    EXPECT_EQ(nan.getBracing(), 0);
+    EXPECT_EQ(nan.getLinearFeetRebar(), 0.0);
+    ZOLWall huge = wallOf(1e300);
+    EXPECT_EQ(huge.getStraightBlocks(), INT_MAX);
+    EXPECT_EQ(huge.getBracing(), INT_MAX);
+}
+
+TEST(ZOLWall, FileElementOfADefaultWall) {
+    ZOLWall wall;
+    wall.setWastePercentage(0.5); // not kept in the file
+    const std::string expected = "\t\t\t<WallData>\n"
+                                 "\t\t\t\t<BlockSize>Eight</BlockSize>\n"
+                                 "\t\t\t\t<WallHeight>8.000000</WallHeight>\n"
+                                 "\t\t\t\t<WallLength>0.000000</WallLength>\n"
+                                 "\t\t\t\t<InsideCornerLocations>0</InsideCornerLocations>\n"
+                                 "\t\t\t\t<OutsideCornerLocations>0</OutsideCornerLocations>\n"
+                                 "\t\t\t\t<AngleLocations>0</AngleLocations>\n"
+                                 "\t\t\t\t<TBlockLocations>0</TBlockLocations>\n"
+                                 "\t\t\t\t<LinearFeetCorbel>0.000000</LinearFeetCorbel>\n"
+                                 "\t\t\t\t<LinearFeetCurb>0.000000</LinearFeetCurb>\n"
+                                 "\t\t\t\t<CurbCornerLocations>0</CurbCornerLocations>\n"
+                                 "\t\t\t\t<LinearFeetTapered>0.000000</LinearFeetTapered>\n"
+                                 "\t\t\t\t<LinearFeetRadius>0.000000</LinearFeetRadius>\n"
+                                 "\t\t\t\t<Radius>10</Radius>\n"
+                                 "\t\t\t\t<SquareFeetOpenings>0.000000</SquareFeetOpenings>\n"
+                                 "\t\t\t\t<LinearFeetBuck>0.000000</LinearFeetBuck>\n"
+                                 "\t\t\t\t<StraightBlockAdded>0</StraightBlockAdded>\n"
+                                 "\t\t\t\t<CornerBlockAdded>0</CornerBlockAdded>\n"
+                                 "\t\t\t\t<CaloraStickLayers>0</CaloraStickLayers>\n"
+                                 "\t\t\t\t<UseCutBlock>false</UseCutBlock>\n"
+                                 "\t\t\t\t<UseHalfBlock>false</UseHalfBlock>\n"
+                                 "\t\t\t\t<UseExtenders>false</UseExtenders>\n"
+                                 "\t\t\t\t<UsePravex>false</UsePravex>\n"
+                                 "\t\t\t\t<PelmoBrickHeight>0.000000</PelmoBrickHeight>\n"
+                                 "\t\t\t\t<PelmoBrickLength>0.000000</PelmoBrickLength>\n"
+                                 "\t\t\t\t<PelmoPerBlock>0</PelmoPerBlock>\n"
+                                 "\t\t\t</WallData>\n";
+    EXPECT_EQ(wall.getXMLString(), expected);
+    wall.setBlockSize(7);
+    EXPECT_NE(wall.getXMLString().find("<BlockSize>(null)</BlockSize>"), std::string::npos);
+}
+
+TEST(ZOLWall, EveryFileValueReadsBack) {
+    ZOLWall original;
+    original.setBlockSize(12);
+    original.setWallHeight(10.667);
+    original.setWallLength(123.25);
+    original.setInsideCornerLocations(2);
+    original.setOutsideCornerLocations(3);
+    original.setAngleLocations(4);
+    original.setTBlockLocations(5);
+    original.setLinearFeetCorbel(6.5);
+    original.setLinearFeetCurb(7.5);
+    original.setCurbCornerLocations(8);
+    original.setLinearFeetTapered(9.5);
+    original.setLinearFeetRadius(10.5);
+    original.setRadius(11);
+    original.setSqftOpenings(12.5);
+    original.setLinearFeetBuck(13.5);
+    original.setStraightBlockAdded(-14);
+    original.setCornerBlockAdded(15);
+    original.setCaloraStickLayers(16);
+    original.setUseCutBlock(true);
+    original.setUseHalfBlock(true);
+    original.setUseExtenders(true);
+    original.setUsePravex(true);
+    original.setPelmoBrickHeight(17.5);
+    original.setPelmoBrickLength(18.5);
+    original.setPelmoPerBlock(2);
+    // Hand each element's text back with the codes 45 to 69, in file order.
+    const std::string xml = original.getXMLString();
+    const std::regex leaf("<([A-Za-z]+)>([^<]*)</\\1>");
+    ZOLWall copy;
+    int32_t code = 45;
+    for (auto it = std::sregex_iterator(xml.begin(), xml.end(), leaf); it != std::sregex_iterator();
+         ++it)
+        copy.setValue((*it)[2].str(), code++);
+    EXPECT_EQ(code, 70);
+    EXPECT_EQ(copy.getXMLString(), xml);
+    EXPECT_EQ(copy.wastePercentage(), 0.02);
+
+    // Other records' codes change nothing; texts read leniently.
+    for (int32_t foreign : {-1, 0, 23, 28, 44, 70, 83, INT_MAX})
+        copy.setValue(std::string("4"), foreign);
+    EXPECT_EQ(copy.getXMLString(), xml);
+    copy.setValue(std::string("  42 corners"), 48);
+    copy.setValue(std::string("-3.5e1ft"), 47);
+    copy.setValue(std::string("no"), 63);
+    copy.setValue(std::string("Yes"), 66);
+    copy.setValue(std::string("twelve"), 45);
+    EXPECT_EQ(copy.insideCornerLocations(), 42);
+    EXPECT_EQ(copy.wallLength(), -35.0);
+    EXPECT_FALSE(copy.useCutBlock());
+    EXPECT_TRUE(copy.usePravex());
+    EXPECT_EQ(copy.blockSize(), 12);
+    copy.setValue(std::nullopt, 45);
+    copy.setValue(std::nullopt, 46);
+    copy.setValue(std::nullopt, 64);
+    EXPECT_EQ(copy.blockSize(), 8);
+    EXPECT_EQ(copy.wallHeight(), 0.0);
+    EXPECT_FALSE(copy.useHalfBlock());
+}
