@@ -21,8 +21,9 @@ int32_t clippedBlocks(int32_t straight, int32_t straightHalf, int32_t corner, in
     int32_t n = straight;
     for (int32_t count : {corner, angle, t, straightCurb, cornerCurb, corbel, tapered, radius})
         n = N::wrapAdd(n, count);
-    n = N::wrapAdd(n, N::wrapDiv(straightHalf, 2));
-    return N::wrapAdd(n, N::wrapDiv(cornerHalf, 2));
+    // Halving is defined for every int32; only the sums can wrap.
+    n = N::wrapAdd(n, straightHalf / 2);
+    return N::wrapAdd(n, cornerHalf / 2);
 }
 
 } // namespace
@@ -37,9 +38,11 @@ int32_t ZOLWallCalculator::calculateBundlesWithBlockSize(int32_t blockSize, int3
     const int32_t bundleSize = ZOLWallData::getBundleSizeWithBlockType(blockType, blockSize);
     if (bundleSize < 1)
         return 0;
-    // A started bundle is a whole bundle: the quotient, plus one for any remainder.
-    const int32_t bundles = N::wrapDiv(quantity, bundleSize);
-    return N::wrapMod(quantity, bundleSize) != 0 ? N::wrapAdd(bundles, 1) : bundles;
+    // A started bundle is a whole bundle: the quotient, plus one for any remainder. With a
+    // divisor of at least 1 the division is defined for every quantity, and a remainder only
+    // exists for divisors of 2 or more, whose quotient leaves room for the added one.
+    const int32_t bundles = quantity / bundleSize;
+    return quantity % bundleSize != 0 ? bundles + 1 : bundles;
 }
 
 int32_t ZOLWallCalculator::calculateExtendersWithWallLength(double wallLength) {

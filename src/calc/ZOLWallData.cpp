@@ -4,19 +4,123 @@
 
 namespace {
 
-// A per-size column of the catalogue, indexed by size minus 4 over sizes 4 to 12. The odd
-// sizes (5, 7, 9, 11) hold 0: the line makes no such blocks.
-using SizeTable = std::array<double, 9>;
+// One column of the catalogue for one part: either a value for every size ("any") or a value
+// per size, indexed by size minus 4 over sizes 4 to 12. The odd sizes (5, 7, 9, 11) hold 0:
+// the line makes no such blocks.
+template <typename T> struct Column {
+    bool any;
+    T anyValue;
+    std::array<T, 9> bySize;
 
-double bySize(const SizeTable& table, int32_t blockSize) {
-    if (blockSize < 4 || blockSize > 12)
-        return 0.0;
-    return table[static_cast<std::size_t>(blockSize - 4)];
+    constexpr T at(int32_t blockSize) const {
+        if (any)
+            return anyValue;
+        if (blockSize < 4 || blockSize > 12)
+            return T{};
+        return bySize[static_cast<std::size_t>(blockSize - 4)];
+    }
+};
+
+template <typename T> constexpr Column<T> anySize(T value) {
+    return {true, value, {}};
 }
 
-// Cores from 4 to 12 inches; the zeros are the odd sizes.
-constexpr SizeTable row(double s4, double s6, double s8, double s10, double s12) {
-    return {s4, 0.0, s6, 0.0, s8, 0.0, s10, 0.0, s12};
+// Cores of 4, 6, 8, 10 and 12 inches; the zeros between them are the odd sizes.
+template <typename T> constexpr Column<T> sizes(T s4, T s6, T s8, T s10, T s12) {
+    return {false, T{}, {s4, T{}, s6, T{}, s8, T{}, s10, T{}, s12}};
+}
+
+using Doubles = Column<double>;
+using Ints = Column<int32_t>;
+
+constexpr Doubles kSquareFeet[ZOLWallData::kPartTypeCount] = {
+    anySize(5.33),                       // 0 straight
+    anySize(2.67),                       // 1 straight half
+    sizes(6.67, 7.11, 7.56, 7.56, 10.5), // 2 corner
+    sizes(3.34, 3.58, 3.78, 3.78, 4.21), // 3 corner half
+    sizes(5.78, 4.89, 5.33, 0.0, 0.0),   // 4 angle: the 4-inch one covers more than the 6
+    sizes(0.0, 0.0, 5.33, 5.33, 0.0),    // 5 straight curb
+    sizes(0.0, 0.0, 7.56, 7.58, 0.0),    // 6 corner curb
+    sizes(0.0, 4.89, 4.89, 0.0, 0.0),    // 7 T
+    sizes(0.0, 5.33, 5.33, 0.0, 0.0),    // 8 corbel
+    sizes(0.0, 5.33, 5.33, 0.0, 0.0),    // 9 tapered
+    sizes(0.0, 0.0, 0.0, 0.0, 0.0),      // 10 radius
+    anySize(0.0),                        // 11 buck
+    anySize(1.33),                       // 12 extender
+    anySize(6000.0),                     // 13 HV clips, per box
+    anySize(1.78),                       // 14 calora sticks
+    anySize(0.0),                        // 15 Pravex
+    anySize(0.0),                        // 16 pelmo
+};
+
+// The buck's weight and trailer space go by its gauge (buckGauge below).
+constexpr Doubles kWeight[ZOLWallData::kPartTypeCount] = {
+    sizes(7.0, 7.5, 7.5, 7.86, 8.22),   // 0
+    sizes(3.5, 3.75, 3.75, 3.93, 4.12), // 1
+    sizes(8.0, 8.47, 9.83, 10.5, 10.5), // 2
+    sizes(4.0, 4.24, 4.92, 5.25, 5.25), // 3
+    sizes(6.4, 6.4, 6.4, 0.0, 0.0),     // 4
+    sizes(0.0, 0.0, 7.6, 7.86, 0.0),    // 5
+    sizes(0.0, 0.0, 9.92, 10.5, 0.0),   // 6
+    sizes(0.0, 9.4, 9.4, 0.0, 0.0),     // 7
+    sizes(0.0, 8.8, 8.9, 0.0, 0.0),     // 8
+    sizes(0.0, 7.3, 7.3, 0.0, 0.0),     // 9
+    sizes(0.0, 2.5, 0.0, 0.0, 0.0),     // 10
+    anySize(0.0),                       // 11 buck: by gauge
+    anySize(0.65),                      // 12
+    anySize(0.072),                     // 13
+    anySize(0.65),                      // 14
+    anySize(2.45),                      // 15
+    anySize(0.15),                      // 16
+};
+
+constexpr Ints kBundleSize[ZOLWallData::kPartTypeCount] = {
+    sizes(12, 12, 12, 9, 9),   // 0
+    sizes(24, 24, 24, 18, 18), // 1
+    sizes(12, 12, 6, 6, 6),    // 2
+    sizes(24, 24, 12, 12, 12), // 3
+    sizes(9, 9, 9, 0, 0),      // 4
+    sizes(0, 0, 12, 9, 0),     // 5
+    sizes(0, 0, 6, 6, 0),      // 6
+    sizes(0, 6, 6, 0, 0),      // 7
+    sizes(0, 9, 9, 0, 0),      // 8
+    sizes(0, 12, 12, 0, 0),    // 9
+    sizes(0, 27, 0, 0, 0),     // 10
+    anySize(10),               // 11
+    anySize(20),               // 12
+    anySize(250),              // 13, clips per box
+    anySize(36),               // 14
+    anySize(9),                // 15
+    anySize(200),              // 16
+};
+
+// Half blocks are bundled to the same footprint as the full ones.
+constexpr Doubles kTrailerAllowance[ZOLWallData::kPartTypeCount] = {
+    sizes(38.0, 45.5, 54.4, 54.0, 54.0),   // 0
+    sizes(38.0, 45.5, 54.4, 54.0, 54.0),   // 1
+    sizes(46.0, 53.0, 41.0, 49.25, 49.25), // 2
+    sizes(46.0, 53.0, 41.0, 49.25, 49.25), // 3
+    sizes(50.0, 40.0, 53.0, 0.0, 0.0),     // 4
+    sizes(0.0, 0.0, 54.4, 54.0, 0.0),      // 5
+    sizes(0.0, 0.0, 54.4, 54.0, 0.0),      // 6
+    sizes(0.0, 40.25, 40.25, 0.0, 0.0),    // 7
+    sizes(0.0, 45.25, 53.25, 0.0, 0.0),    // 8
+    sizes(0.0, 45.25, 54.4, 0.0, 0.0),     // 9
+    sizes(0.0, 39.0, 0.0, 0.0, 0.0),       // 10
+    anySize(0.0),                          // 11 buck: by gauge
+    anySize(17.0),                         // 12
+    anySize(11.0),                         // 13
+    anySize(17.0),                         // 14
+    anySize(2.64),                         // 15
+    anySize(0.3),                          // 16
+};
+
+constexpr int32_t kBuckType = 11;
+
+// The buck comes in two gauges: the narrow one for 4- and 6-inch cores, the wide one for
+// every other size value.
+constexpr double buckGauge(int32_t blockSize, double narrow, double wide) {
+    return blockSize == 4 || blockSize == 6 ? narrow : wide;
 }
 
 constexpr const char* kPartNames[ZOLWallData::kPartTypeCount] = {
@@ -70,39 +174,12 @@ bool equalsLowerCased(std::string_view text, std::string_view lowerWord) {
     return true;
 }
 
-// The buck comes in two gauges: the narrow one for 4- and 6-inch cores, the wide one for
-// every other size value.
-bool narrowBuck(int32_t blockSize) {
-    return blockSize == 4 || blockSize == 6;
-}
-
 } // namespace
-
-bool ZOLWallData::getValidSizeWithBlockType(int32_t blockType, int32_t blockSize) {
-    // Compared unsigned so that negative types fall outside as well.
-    if (static_cast<uint32_t>(blockType) > 16u)
-        return false;
-    switch (blockType) {
-    case 4:
-        return blockSize == 4 || blockSize == 6 || blockSize == 8;
-    case 5:
-    case 6:
-        return blockSize == 8 || blockSize == 10;
-    case 7:
-    case 8:
-    case 9:
-        return blockSize == 6 || blockSize == 8;
-    case 10:
-        return blockSize == 6;
-    default: // 0 to 3 and 11 to 16 take every size value
-        return true;
-    }
-}
 
 double ZOLWallData::getLengthWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    return blockType <= 10 ? 49.0 : 0.0;
+    return blockType <= 10 ? 49.0 : 0.0; // blocks are 49 inches long; accessories have none
 }
 
 double ZOLWallData::getHeightWithBlockType(int32_t blockType, int32_t blockSize) {
@@ -116,161 +193,29 @@ double ZOLWallData::getHeightWithBlockType(int32_t blockType, int32_t blockSize)
 double ZOLWallData::getSquareFeetWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    switch (blockType) {
-    case 0:
-        return 5.33;
-    case 1:
-        return 2.67;
-    case 2:
-        return bySize(row(6.67, 7.11, 7.56, 7.56, 10.5), blockSize);
-    case 3:
-        return bySize(row(3.34, 3.58, 3.78, 3.78, 4.21), blockSize);
-    case 4: // the 4-inch angle covers more than the 6-inch one: catalogue data
-        return bySize(row(5.78, 4.89, 5.33, 0.0, 0.0), blockSize);
-    case 5:
-        return bySize(row(0.0, 0.0, 5.33, 5.33, 0.0), blockSize);
-    case 6:
-        return bySize(row(0.0, 0.0, 7.56, 7.58, 0.0), blockSize);
-    case 7:
-        return bySize(row(0.0, 4.89, 4.89, 0.0, 0.0), blockSize);
-    case 8:
-    case 9:
-        return bySize(row(0.0, 5.33, 5.33, 0.0, 0.0), blockSize);
-    case 10:
-    case 11:
-        return 0.0;
-    case 12:
-        return 1.33;
-    case 13:
-        return 6000.0;
-    case 14:
-        return 1.78;
-    default: // 15, 16
-        return 0.0;
-    }
+    return kSquareFeet[blockType].at(blockSize);
 }
 
 double ZOLWallData::getWeightWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    switch (blockType) {
-    case 0:
-        return bySize(row(7.0, 7.5, 7.5, 7.86, 8.22), blockSize);
-    case 1:
-        return bySize(row(3.5, 3.75, 3.75, 3.93, 4.12), blockSize);
-    case 2:
-        return bySize(row(8.0, 8.47, 9.83, 10.5, 10.5), blockSize);
-    case 3:
-        return bySize(row(4.0, 4.24, 4.92, 5.25, 5.25), blockSize);
-    case 4:
-        return bySize(row(6.4, 6.4, 6.4, 0.0, 0.0), blockSize);
-    case 5:
-        return bySize(row(0.0, 0.0, 7.6, 7.86, 0.0), blockSize);
-    case 6:
-        return bySize(row(0.0, 0.0, 9.92, 10.5, 0.0), blockSize);
-    case 7:
-        return bySize(row(0.0, 9.4, 9.4, 0.0, 0.0), blockSize);
-    case 8:
-        return bySize(row(0.0, 8.8, 8.9, 0.0, 0.0), blockSize);
-    case 9:
-        return bySize(row(0.0, 7.3, 7.3, 0.0, 0.0), blockSize);
-    case 10:
-        return bySize(row(0.0, 2.5, 0.0, 0.0, 0.0), blockSize);
-    case 11:
-        return narrowBuck(blockSize) ? 2.5 : 3.0;
-    case 12:
-        return 0.65;
-    case 13:
-        return 0.072;
-    case 14:
-        return 0.65;
-    case 15:
-        return 2.45;
-    default: // 16
-        return 0.15;
-    }
+    if (blockType == kBuckType)
+        return buckGauge(blockSize, 2.5, 3.0);
+    return kWeight[blockType].at(blockSize);
 }
 
 int32_t ZOLWallData::getBundleSizeWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0;
-    auto pieces = [blockSize](int32_t s4, int32_t s6, int32_t s8, int32_t s10, int32_t s12) {
-        return static_cast<int32_t>(bySize(row(s4, s6, s8, s10, s12), blockSize));
-    };
-    switch (blockType) {
-    case 0:
-        return pieces(12, 12, 12, 9, 9);
-    case 1:
-        return pieces(24, 24, 24, 18, 18);
-    case 2:
-        return pieces(12, 12, 6, 6, 6);
-    case 3:
-        return pieces(24, 24, 12, 12, 12);
-    case 4:
-        return pieces(9, 9, 9, 0, 0);
-    case 5:
-        return pieces(0, 0, 12, 9, 0);
-    case 6:
-        return pieces(0, 0, 6, 6, 0);
-    case 7:
-        return pieces(0, 6, 6, 0, 0);
-    case 8:
-        return pieces(0, 9, 9, 0, 0);
-    case 9:
-        return pieces(0, 12, 12, 0, 0);
-    case 10:
-        return pieces(0, 27, 0, 0, 0);
-    case 11:
-        return 10;
-    case 12:
-        return 20;
-    case 13:
-        return 250;
-    case 14:
-        return 36;
-    case 15:
-        return 9;
-    default: // 16
-        return 200;
-    }
+    return kBundleSize[blockType].at(blockSize);
 }
 
 double ZOLWallData::getTrailerAllowanceWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    switch (blockType) {
-    case 0:
-    case 1: // half blocks are bundled to the same footprint as full ones
-        return bySize(row(38.0, 45.5, 54.4, 54.0, 54.0), blockSize);
-    case 2:
-    case 3:
-        return bySize(row(46.0, 53.0, 41.0, 49.25, 49.25), blockSize);
-    case 4:
-        return bySize(row(50.0, 40.0, 53.0, 0.0, 0.0), blockSize);
-    case 5:
-    case 6:
-        return bySize(row(0.0, 0.0, 54.4, 54.0, 0.0), blockSize);
-    case 7:
-        return bySize(row(0.0, 40.25, 40.25, 0.0, 0.0), blockSize);
-    case 8:
-        return bySize(row(0.0, 45.25, 53.25, 0.0, 0.0), blockSize);
-    case 9:
-        return bySize(row(0.0, 45.25, 54.4, 0.0, 0.0), blockSize);
-    case 10:
-        return bySize(row(0.0, 39.0, 0.0, 0.0, 0.0), blockSize);
-    case 11:
-        return narrowBuck(blockSize) ? 11.5 : 13.25;
-    case 12:
-        return 17.0;
-    case 13:
-        return 11.0;
-    case 14:
-        return 17.0;
-    case 15:
-        return 2.64;
-    default: // 16
-        return 0.3;
-    }
+    if (blockType == kBuckType)
+        return buckGauge(blockSize, 11.5, 13.25);
+    return kTrailerAllowance[blockType].at(blockSize);
 }
 
 std::optional<std::string> ZOLWallData::getPartNameWithBlockType(int32_t blockType) {

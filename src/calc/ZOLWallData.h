@@ -18,7 +18,26 @@ public:
 
     // Whether the part exists in that size. Types 0-3 and 11-16 exist in every size value (the
     // size tables then give 0 for a size the line does not make).
-    static bool getValidSizeWithBlockType(int32_t blockType, int32_t blockSize);
+    static constexpr bool getValidSizeWithBlockType(int32_t blockType, int32_t blockSize) {
+        // Compared unsigned so that negative types fall outside as well.
+        if (static_cast<uint32_t>(blockType) > 16u)
+            return false;
+        switch (blockType) {
+        case 4: // angle
+            return blockSize == 4 || blockSize == 6 || blockSize == 8;
+        case 5: // curb blocks
+        case 6:
+            return blockSize == 8 || blockSize == 10;
+        case 7: // T, corbel, tapered
+        case 8:
+        case 9:
+            return blockSize == 6 || blockSize == 8;
+        case 10: // radius
+            return blockSize == 6;
+        default: // 0 to 3 and 11 to 16 take every size value
+            return true;
+        }
+    }
 
     // Per-piece data; 0 for a pair that does not exist.
     static double getLengthWithBlockType(int32_t blockType, int32_t blockSize);      // inches

@@ -96,10 +96,13 @@ double ZOLWall::getNetSqFtOfWall() const {
 }
 
 // ---- Blocks
+//
+// The clip and stick counts need every block count at once; they are computed in one pass
+// (rows and corner lengths once) by the same helpers the single queries use.
 
-int32_t ZOLWall::oneCourseStraightBlocks() const {
-    return WC::calculateStraightBlockWithWallLength(wallLength_, linearFeetOfCornersAndTs(),
-                                                    linearFeetRadius_, 1, 0, 0);
+int32_t ZOLWall::oneCourseStraightBlocks(double cornersAndTs) const {
+    return WC::calculateStraightBlockWithWallLength(wallLength_, cornersAndTs, linearFeetRadius_, 1,
+                                                    0, 0);
 }
 
 int32_t ZOLWall::oneCourseCornerBlocks() const {
@@ -108,34 +111,86 @@ int32_t ZOLWall::oneCourseCornerBlocks() const {
         insideCornerLocations_, outsideCornerLocations_, 1, curbCornerLocations_, 0);
 }
 
-int32_t ZOLWall::getStraightBlocks() const {
+int32_t ZOLWall::straightBlocks(int32_t rows, double cornersAndTs, int32_t angle, int32_t curb,
+                                int32_t tapered, int32_t corbel, int32_t cut) const {
     // An angle block stands in for three quarters of a straight block; curb, tapered and
     // corbel blocks replace straight blocks one for one, and so do the openings.
-    int32_t oneForOne = N::wrapAdd(getOpeningsInBlockCount(), getStraightCurbBlocks());
-    oneForOne = N::wrapAdd(oneForOne, getTaperedBlocks());
-    oneForOne = N::wrapAdd(oneForOne, getCorbelBlocks());
-    const int32_t toDeduct = N::toInt(getAngleBlocks() * 0.75 + oneForOne);
+    int32_t oneForOne = N::wrapAdd(getOpeningsInBlockCount(), curb);
+    oneForOne = N::wrapAdd(oneForOne, tapered);
+    oneForOne = N::wrapAdd(oneForOne, corbel);
+    const int32_t toDeduct = N::toInt(angle * 0.75 + oneForOne);
     // Cut blocks are cut from extra straight blocks.
-    const int32_t added = N::wrapAdd(straightBlockAdded_, getStraightCutBlocks());
+    const int32_t added = N::wrapAdd(straightBlockAdded_, cut);
     const int32_t blocks = WC::calculateStraightBlockWithWallLength(
-        wallLength_, linearFeetOfCornersAndTs(), linearFeetRadius_, getRows(), toDeduct, added);
+        wallLength_, cornersAndTs, linearFeetRadius_, rows, toDeduct, added);
     // Only straight blocks carry the waste allowance.
     return N::ceilToInt((wastePercentage_ + 1.0) * blocks);
 }
 
+int32_t ZOLWall::cornerBlocks(int32_t rows, int32_t cut) const {
+    return WC::calculateCornerBlocksWithInsideCorners(
+        insideCornerLocations_, outsideCornerLocations_, rows, curbCornerLocations_,
+        N::wrapAdd(cornerBlockAdded_, cut));
+}
+
+int32_t ZOLWall::angleOrTBlocks(int32_t type, int32_t locations, int32_t rows) const {
+    if (!WD::getValidSizeWithBlockType(type, blockSize_))
+        return 0;
+    // A half course needs one more block per two locations.
+    const int32_t added =
+        useHalfBlock_ ? WC::calculateAddedAngleOrTBlockWithNumberOfLocations(locations) : 0;
+    return WC::calculateAngleOrTBlockWithNumberOfLocations(locations, rows, added);
+}
+
+int32_t ZOLWall::radiusBlocks(int32_t rows) const {
+    if (!WD::getValidSizeWithBlockType(10, blockSize_))
+        return 0;
+    return WC::calculateRadiusBlockWithLinearFeetOfRadius(linearFeetRadius_, rows);
+}
+
+// Two cut pieces come from one block; an odd count loses its remainder. (Halving is defined
+// for every int32, so no wrap helper is needed.)
+static int32_t cutPieces(int32_t oneCourse) {
+    return oneCourse / 2;
+}
+
+ZOLWall::BlockCounts ZOLWall::blockCounts() const {
+    BlockCounts c;
+    const int32_t rows = getRows();
+    const double cornersAndTs = linearFeetOfCornersAndTs();
+    const int32_t straightCourse = oneCourseStraightBlocks(cornersAndTs);
+    const int32_t cornerCourse = oneCourseCornerBlocks();
+    c.straightHalf = useHalfBlock_ ? straightCourse : 0;
+    c.cornerHalf = useHalfBlock_ ? cornerCourse : 0;
+    c.angle = angleOrTBlocks(4, angleLocations_, rows);
+    c.t = angleOrTBlocks(7, tBlockLocations_, rows);
+    c.straightCurb = getStraightCurbBlocks();
+    c.cornerCurb = getCornerCurbBlocks();
+    c.corbel = getCorbelBlocks();
+    c.tapered = getTaperedBlocks();
+    c.radius = radiusBlocks(rows);
+    c.straight = straightBlocks(rows, cornersAndTs, c.angle, c.straightCurb, c.tapered, c.corbel,
+                                useCutBlock_ ? cutPieces(straightCourse) : 0);
+    c.corner = cornerBlocks(rows, useCutBlock_ ? cutPieces(cornerCourse) : 0);
+    return c;
+}
+
+int32_t ZOLWall::getStraightBlocks() const {
+    return straightBlocks(getRows(), linearFeetOfCornersAndTs(), getAngleBlocks(),
+                          getStraightCurbBlocks(), getTaperedBlocks(), getCorbelBlocks(),
+                          getStraightCutBlocks());
+}
+
 int32_t ZOLWall::getStraightHalfBlocks() const {
-    return useHalfBlock_ ? oneCourseStraightBlocks() : 0;
+    return useHalfBlock_ ? oneCourseStraightBlocks(linearFeetOfCornersAndTs()) : 0;
 }
 
 int32_t ZOLWall::getStraightCutBlocks() const {
-    // Two cut pieces come from one block; an odd count loses its remainder.
-    return useCutBlock_ ? N::wrapDiv(oneCourseStraightBlocks(), 2) : 0;
+    return useCutBlock_ ? cutPieces(oneCourseStraightBlocks(linearFeetOfCornersAndTs())) : 0;
 }
 
 int32_t ZOLWall::getCornerBlocks() const {
-    const int32_t added = N::wrapAdd(cornerBlockAdded_, getCornerCutBlocks());
-    return WC::calculateCornerBlocksWithInsideCorners(
-        insideCornerLocations_, outsideCornerLocations_, getRows(), curbCornerLocations_, added);
+    return cornerBlocks(getRows(), getCornerCutBlocks());
 }
 
 int32_t ZOLWall::getCornerHalfBlocks() const {
@@ -143,23 +198,15 @@ int32_t ZOLWall::getCornerHalfBlocks() const {
 }
 
 int32_t ZOLWall::getCornerCutBlocks() const {
-    return useCutBlock_ ? N::wrapDiv(oneCourseCornerBlocks(), 2) : 0;
+    return useCutBlock_ ? cutPieces(oneCourseCornerBlocks()) : 0;
 }
 
 int32_t ZOLWall::getAngleBlocks() const {
-    if (!WD::getValidSizeWithBlockType(4, blockSize_))
-        return 0;
-    const int32_t added =
-        useHalfBlock_ ? WC::calculateAddedAngleOrTBlockWithNumberOfLocations(angleLocations_) : 0;
-    return WC::calculateAngleOrTBlockWithNumberOfLocations(angleLocations_, getRows(), added);
+    return angleOrTBlocks(4, angleLocations_, getRows());
 }
 
 int32_t ZOLWall::getTBlocks() const {
-    if (!WD::getValidSizeWithBlockType(7, blockSize_))
-        return 0;
-    const int32_t added =
-        useHalfBlock_ ? WC::calculateAddedAngleOrTBlockWithNumberOfLocations(tBlockLocations_) : 0;
-    return WC::calculateAngleOrTBlockWithNumberOfLocations(tBlockLocations_, getRows(), added);
+    return angleOrTBlocks(7, tBlockLocations_, getRows());
 }
 
 int32_t ZOLWall::getStraightCurbBlocks() const {
@@ -185,9 +232,7 @@ int32_t ZOLWall::getTaperedBlocks() const {
 }
 
 int32_t ZOLWall::getRadiusBlocks() const {
-    if (!WD::getValidSizeWithBlockType(10, blockSize_))
-        return 0;
-    return WC::calculateRadiusBlockWithLinearFeetOfRadius(linearFeetRadius_, getRows());
+    return radiusBlocks(getRows());
 }
 
 // ---- Accessories
@@ -200,18 +245,25 @@ int32_t ZOLWall::getExtenders() const {
     return useExtenders_ ? WC::calculateExtendersWithWallLength(wallLength_) : 0;
 }
 
+int32_t ZOLWall::hvClipsOf(const BlockCounts& c) {
+    return WC::calculateHVClipsWithStraightBlock(c.straight, c.straightHalf, c.corner, c.cornerHalf,
+                                                 c.angle, c.t, c.straightCurb, c.cornerCurb,
+                                                 c.corbel, c.tapered, c.radius);
+}
+int32_t ZOLWall::caloraSticksOf(const BlockCounts& c, int32_t layers) {
+    return WC::calculateR9WithStraightBlock(c.straight, c.straightHalf, c.corner, c.cornerHalf,
+                                            c.angle, c.t, c.straightCurb, c.cornerCurb, c.corbel,
+                                            c.tapered, c.radius, layers);
+}
+
 int32_t ZOLWall::getHVClips() const {
-    return WC::calculateHVClipsWithStraightBlock(
-        getStraightBlocks(), getStraightHalfBlocks(), getCornerBlocks(), getCornerHalfBlocks(),
-        getAngleBlocks(), getTBlocks(), getStraightCurbBlocks(), getCornerCurbBlocks(),
-        getCorbelBlocks(), getTaperedBlocks(), getRadiusBlocks());
+    return hvClipsOf(blockCounts());
 }
 
 int32_t ZOLWall::getCaloraSticks() const {
-    return WC::calculateR9WithStraightBlock(
-        getStraightBlocks(), getStraightHalfBlocks(), getCornerBlocks(), getCornerHalfBlocks(),
-        getAngleBlocks(), getTBlocks(), getStraightCurbBlocks(), getCornerCurbBlocks(),
-        getCorbelBlocks(), getTaperedBlocks(), getRadiusBlocks(), caloraStickLayers_);
+    if (caloraStickLayers_ == 0)
+        return 0; // no layers, no sticks, whatever the block count
+    return caloraSticksOf(blockCounts(), caloraStickLayers_);
 }
 
 int32_t ZOLWall::getCaloraStickBundles() const {
@@ -234,7 +286,10 @@ int32_t ZOLWall::getPelmos() const {
 // ---- Shipping, concrete and steel
 
 double ZOLWall::getTrucks() const {
-    auto b = [this](int32_t type) { return getTotalBundlesWithPartType(type); };
+    const std::array<int32_t, 17> counts = partCounts();
+    auto b = [this, &counts](int32_t type) {
+        return WC::calculateBundlesWithBlockSize(blockSize_, type, counts[type]);
+    };
     return WC::calculateTrucksWithBlockSize(blockSize_, b(0), b(1), b(2), b(3), b(4), b(7), b(5),
                                             b(6), b(8), b(9), b(10), b(11), b(12), b(13), b(14));
 }
@@ -257,13 +312,36 @@ double ZOLWall::getLinearFeetRebar() const {
 }
 
 double ZOLWall::getTotalPartsWeight() const {
+    const std::array<int32_t, 17> counts = partCounts();
     double weight = 0.0;
     for (int32_t type = 0; type < WD::kPartTypeCount; ++type)
-        weight += getApproximateWeightWithPartType(type, false);
+        weight += WC::calculateBlockWeightWithBlockSize(blockSize_, type, counts[type]);
     return weight;
 }
 
 // ---- Per part type
+
+std::array<int32_t, 17> ZOLWall::partCounts() const {
+    // The same table as getPartCountWithPartType, with the block counts shared.
+    const BlockCounts c = blockCounts();
+    return {c.straight,
+            c.straightHalf,
+            c.corner,
+            c.cornerHalf,
+            c.angle,
+            c.straightCurb,
+            c.cornerCurb,
+            c.t,
+            c.corbel,
+            c.tapered,
+            0, // radius blocks are never ordered by part type
+            getZolBuck(),
+            getExtenders(),
+            hvClipsOf(c),
+            caloraSticksOf(c, caloraStickLayers_),
+            getPravexes(),
+            getPelmos()};
+}
 
 int32_t ZOLWall::getPartCountWithPartType(int32_t partType) const {
     switch (partType) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -119,8 +120,22 @@ public:
 
 private:
     double linearFeetOfCornersAndTs() const;
-    int32_t oneCourseStraightBlocks() const;
+    struct BlockCounts {
+        int32_t straight, straightHalf, corner, cornerHalf, angle, t, straightCurb, cornerCurb,
+            corbel, tapered, radius;
+    };
+    BlockCounts blockCounts() const;
+    static int32_t hvClipsOf(const BlockCounts& c);
+    static int32_t caloraSticksOf(const BlockCounts& c, int32_t layers);
+    // Every part type's count from one pass, for the queries that need all of them.
+    std::array<int32_t, 17> partCounts() const;
+    int32_t oneCourseStraightBlocks(double cornersAndTs) const;
     int32_t oneCourseCornerBlocks() const;
+    int32_t straightBlocks(int32_t rows, double cornersAndTs, int32_t angle, int32_t curb,
+                           int32_t tapered, int32_t corbel, int32_t cut) const;
+    int32_t cornerBlocks(int32_t rows, int32_t cut) const;
+    int32_t angleOrTBlocks(int32_t type, int32_t locations, int32_t rows) const;
+    int32_t radiusBlocks(int32_t rows) const;
 
     int32_t blockSize_;
     double wallHeight_;

@@ -386,3 +386,52 @@ TEST(ZOLWall, EveryFileValueReadsBack) {
     EXPECT_EQ(copy.wallHeight(), 0.0);
     EXPECT_FALSE(copy.useHalfBlock());
 }
+
+TEST(ZOLWall, WholeOrderAgreesWithPartByPart) {
+    // Trucks, total weight, clips and sticks count every part at once; over a spread of walls
+    // they must agree with the single-part queries.
+    for (int i = 0; i < 60; ++i) {
+        ZOLWall w = wallOf(30.0 + 13.7 * i, 4 + 2 * (i % 5));
+        w.setWallHeight(1.334 * (2 + i % 9));
+        w.setInsideCornerLocations(i % 3);
+        w.setOutsideCornerLocations(i % 7);
+        w.setAngleLocations(i % 4);
+        w.setTBlockLocations(i % 2);
+        w.setLinearFeetCorbel(i % 3 == 0 ? 11.0 : 0.0);
+        w.setLinearFeetCurb(i % 4 == 0 ? 17.0 : 0.0);
+        w.setCurbCornerLocations(i % 4 == 0 ? 3 : 0);
+        w.setLinearFeetTapered(i % 5 == 0 ? 9.0 : 0.0);
+        w.setLinearFeetRadius(i % 6 == 0 ? 20.0 : 0.0);
+        w.setSqftOpenings(i * 4.5);
+        w.setLinearFeetBuck(i * 2.5);
+        w.setUseHalfBlock(i % 2 == 0);
+        w.setUseCutBlock(i % 3 == 1);
+        w.setUseExtenders(i % 5 == 2);
+        w.setCaloraStickLayers(i % 4);
+        w.setPelmoBrickHeight(2.0);
+        w.setPelmoBrickLength(i);
+        auto b = [&w](int32_t type) { return w.getTotalBundlesWithPartType(type); };
+        EXPECT_EQ(w.getTrucks(), WC::calculateTrucksWithBlockSize(
+                                     w.blockSize(), b(0), b(1), b(2), b(3), b(4), b(7), b(5), b(6),
+                                     b(8), b(9), b(10), b(11), b(12), b(13), b(14)))
+            << i;
+        double weight = 0.0;
+        for (int32_t type = 0; type <= 16; ++type)
+            weight += w.getApproximateWeightWithPartType(type, false);
+        EXPECT_EQ(w.getTotalPartsWeight(), weight) << i;
+        EXPECT_EQ(w.getHVClips(),
+                  WC::calculateHVClipsWithStraightBlock(
+                      w.getStraightBlocks(), w.getStraightHalfBlocks(), w.getCornerBlocks(),
+                      w.getCornerHalfBlocks(), w.getAngleBlocks(), w.getTBlocks(),
+                      w.getStraightCurbBlocks(), w.getCornerCurbBlocks(), w.getCorbelBlocks(),
+                      w.getTaperedBlocks(), w.getRadiusBlocks()))
+            << i;
+        EXPECT_EQ(w.getCaloraSticks(),
+                  WC::calculateR9WithStraightBlock(
+                      w.getStraightBlocks(), w.getStraightHalfBlocks(), w.getCornerBlocks(),
+                      w.getCornerHalfBlocks(), w.getAngleBlocks(), w.getTBlocks(),
+                      w.getStraightCurbBlocks(), w.getCornerCurbBlocks(), w.getCorbelBlocks(),
+                      w.getTaperedBlocks(), w.getRadiusBlocks(), w.caloraStickLayers()))
+            << i;
+    }
+}
