@@ -172,10 +172,10 @@ zolcli::Registrar reg("calc-wall", [](CLI::App& root) {
     addWallOptions(*cmd, wall);
     cmd->add_option_function<std::vector<std::string>>(
            "--opening",
-           [openings](const std::vector<std::string>& specs) {
-               for (const std::string& spec : specs)
+           [openings](const std::vector<std::string>& texts) {
+               for (const std::string& text : texts)
                    openings->addOpeningObject(
-                       parseOpening(spec, static_cast<int32_t>(openings->openingList().size())));
+                       parseOpening(text, static_cast<int32_t>(openings->openingList().size())));
            },
            "an opening row: how many, rough width and height in inches, 'nosill' for a buck "
            "head without a sill (repeatable); the list's square feet and buck replace "

@@ -176,9 +176,11 @@ ZOLWall::BlockCounts ZOLWall::blockCounts() const {
 }
 
 int32_t ZOLWall::getStraightBlocks() const {
-    return straightBlocks(getRows(), linearFeetOfCornersAndTs(), getAngleBlocks(),
-                          getStraightCurbBlocks(), getTaperedBlocks(), getCorbelBlocks(),
-                          getStraightCutBlocks());
+    const int32_t rows = getRows();
+    const double cornersAndTs = linearFeetOfCornersAndTs();
+    const int32_t cut = useCutBlock_ ? cutPieces(oneCourseStraightBlocks(cornersAndTs)) : 0;
+    return straightBlocks(rows, cornersAndTs, angleOrTBlocks(4, angleLocations_, rows),
+                          getStraightCurbBlocks(), getTaperedBlocks(), getCorbelBlocks(), cut);
 }
 
 int32_t ZOLWall::getStraightHalfBlocks() const {
