@@ -1,0 +1,44 @@
+#include "calc/ZOLRebarCalculator.h"
+
+#include "io/ZOLNumeric.h"
+
+namespace {
+// Whole feet of a length in inches, truncated toward zero (30 inches are 2 feet).
+int32_t wholeFeet(int32_t inches) {
+    return ZOLNumeric::wrapDiv(inches, 12);
+}
+} // namespace
+
+std::vector<std::string> ZOLRebarCalculator::getImperialRebarSizes() {
+    return {"#4", "#5", "#6", "#7", "#8"};
+}
+
+std::vector<std::string> ZOLRebarCalculator::getMetricRebarSizes() {
+    return {"10M", "15M", "20M", "25M"};
+}
+
+double ZOLRebarCalculator::calculateHorizontalRebarWithWallLength(double wallLength,
+                                                                  int32_t lapSplice, int32_t rows) {
+    const int32_t lapFeet = wholeFeet(lapSplice);
+    // The number of laps is fractional on purpose: a 30-foot wall carries 1.5 laps per row.
+    return (wallLength / 20.0) * lapFeet * rows + static_cast<double>(rows) * wallLength;
+}
+
+double ZOLRebarCalculator::calculateVerticalRebarWithWallLength(double wallLength, int32_t spacing,
+                                                                double wallHeight) {
+    if (spacing < 1)
+        return 0.0;
+    // A spacing of 1 to 11 inches is zero feet; dividing by 0.0 gives an infinity (or NaN
+    // for an empty wall), which the screens show as they find it.
+    const double spacingFeet = wholeFeet(spacing);
+    return wallLength / spacingFeet * wallHeight;
+}
+
+double ZOLRebarCalculator::calculateDowelsWithWallLength(double wallLength, int32_t spacing,
+                                                         int32_t dowelLength) {
+    if (spacing < 1)
+        return 0.0;
+    const double spacingFeet = wholeFeet(spacing);
+    const double dowelFeet = wholeFeet(dowelLength);
+    return dowelFeet * (wallLength / spacingFeet);
+}

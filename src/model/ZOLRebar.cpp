@@ -1,0 +1,122 @@
+#include "model/ZOLRebar.h"
+
+#include "calc/ZOLRebarCalculator.h"
+#include "io/ZOLFormat.h"
+#include "io/ZOLText.h"
+
+ZOLRebar::ZOLRebar() {
+    clear();
+}
+
+void ZOLRebar::clear() {
+    measurement_ = 0;
+    wallLength_ = 0.0;
+    wallHeight_ = 8.0;
+    horizontalSize1_ = 1;
+    horizontalRowCount1_ = 0;
+    horizontalLap1_ = 0;
+    horizontalSize2_ = 1;
+    horizontalRowCount2_ = 0;
+    horizontalLap2_ = 0;
+    verticalSize_ = 1;
+    verticalSpacing_ = 0;
+    dowelSize_ = 1;
+    dowelSpacing_ = 0;
+    dowelLength_ = 0;
+}
+
+double ZOLRebar::getHorizontalLength1() const {
+    return ZOLRebarCalculator::calculateHorizontalRebarWithWallLength(wallLength_, horizontalLap1_,
+                                                                      horizontalRowCount1_);
+}
+
+double ZOLRebar::getHorizontalLength2() const {
+    return ZOLRebarCalculator::calculateHorizontalRebarWithWallLength(wallLength_, horizontalLap2_,
+                                                                      horizontalRowCount2_);
+}
+
+double ZOLRebar::getVerticalLength() const {
+    return ZOLRebarCalculator::calculateVerticalRebarWithWallLength(wallLength_, verticalSpacing_,
+                                                                    wallHeight_);
+}
+
+double ZOLRebar::getDowelLength() const {
+    return ZOLRebarCalculator::calculateDowelsWithWallLength(wallLength_, dowelSpacing_,
+                                                             dowelLength_);
+}
+
+std::string ZOLRebar::getXMLString() const {
+    std::string xml = "\t\t\t<RebarData>\n";
+    xml += ZOLFormat::format("\t\t\t\t<Measurement>%@</Measurement>\n",
+                             measurement_ == 0 ? "Imperial" : "Metric");
+    xml += ZOLFormat::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalSize1>%d</HorizontalSize1>\n", horizontalSize1_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalRowCount1>%d</HorizontalRowCount1>\n",
+                             horizontalRowCount1_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalLap1>%d</HorizontalLap1>\n", horizontalLap1_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalSize2>%d</HorizontalSize2>\n", horizontalSize2_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalRowCount2>%d</HorizontalRowCount2>\n",
+                             horizontalRowCount2_);
+    xml += ZOLFormat::format("\t\t\t\t<HorizontalLap2>%d</HorizontalLap2>\n", horizontalLap2_);
+    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    xml += ZOLFormat::format("\t\t\t\t<VerticalSize>%d</VerticalSize>\n", verticalSize_);
+    xml += ZOLFormat::format("\t\t\t\t<VerticalSpacing>%d</VerticalSpacing>\n", verticalSpacing_);
+    xml += ZOLFormat::format("\t\t\t\t<DowelSize>%d</DowelSize>\n", dowelSize_);
+    xml += ZOLFormat::format("\t\t\t\t<DowelSpacing>%d</DowelSpacing>\n", dowelSpacing_);
+    xml += ZOLFormat::format("\t\t\t\t<DowelLength>%d</DowelLength>\n", dowelLength_);
+    xml += "\t\t\t</RebarData>\n";
+    return xml;
+}
+
+void ZOLRebar::setValue(const std::optional<std::string>& value, int32_t forProperty) {
+    switch (forProperty) {
+    case 29:
+        // Only the two words the writer produces change the system; anything else is kept.
+        if (value == "Imperial")
+            measurement_ = 0;
+        else if (value == "Metric")
+            measurement_ = 1;
+        break;
+    case 30:
+        wallLength_ = ZOLText::leadingDouble(value);
+        break;
+    case 31:
+        horizontalSize1_ = ZOLText::leadingInt(value);
+        break;
+    case 32:
+        horizontalRowCount1_ = ZOLText::leadingInt(value);
+        break;
+    case 33:
+        horizontalLap1_ = ZOLText::leadingInt(value);
+        break;
+    case 34:
+        horizontalSize2_ = ZOLText::leadingInt(value);
+        break;
+    case 35:
+        horizontalRowCount2_ = ZOLText::leadingInt(value);
+        break;
+    case 36:
+        horizontalLap2_ = ZOLText::leadingInt(value);
+        break;
+    case 37:
+        wallHeight_ = ZOLText::leadingDouble(value);
+        break;
+    case 38:
+        verticalSize_ = ZOLText::leadingInt(value);
+        break;
+    case 39:
+        verticalSpacing_ = ZOLText::leadingInt(value);
+        break;
+    case 40:
+        dowelSize_ = ZOLText::leadingInt(value);
+        break;
+    case 41:
+        dowelSpacing_ = ZOLText::leadingInt(value);
+        break;
+    case 42:
+        dowelLength_ = ZOLText::leadingInt(value);
+        break;
+    default:
+        break;
+    }
+}
