@@ -1,0 +1,156 @@
+// The concrete record and its calculator: the four pours in cubic yards or metres, their
+// weights, the integer-halved pile radius, the unclamped removal of openings, and the file.
+#include "model/ZOLConcrete.h"
+#include "calc/ZOLConcreteCalculator.h"
+#include "support/GoldenFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace {
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+constexpr double kPi = 3.141592653589793;
+constexpr double kCubicInchesPerYard = 46656.0;
+using Calc = ZOLConcreteCalculator;
+
+// Codes 11 to 23 as the file reader hands them over.
+ZOLConcrete readFilled() {
+    const std::pair<int32_t, const char*> values[] = {
+        {11, "Metric"}, {12, "20"}, {13, "100.25"}, {14, "10"},     {15, "10.5"},
+        {16, "13"},     {17, "3"},  {18, "24"},     {19, "12.125"}, {20, "4"},
+        {21, "60"},     {22, "6"},  {23, "9.334"}};
+    ZOLConcrete c;
+    for (const auto& [code, text] : values)
+        c.setValue(text, code);
+    return c;
+}
+} // namespace
+
+TEST(ZOLConcrete, FreshOrClearedRecordPoursNothing) {
+    ZOLConcrete c;
+    EXPECT_EQ(c.getXMLString(), goldenFile("xml/concrete-default.xml"));
+    for (double value :
+         {c.getFootingVolume(), c.getFootingWeight(), c.getPileVolume(), c.getPileWeight(),
+          c.getSlabVolume(), c.getSlabWeight(), c.getWallVolume(), c.getWallWeight()})
+        EXPECT_EQ(value, 0.0);
+    ZOLConcrete cleared = readFilled();
+    cleared.setRemoveSqFtOpenings(true);
+    cleared.clear();
+    EXPECT_EQ(cleared.getXMLString(), c.getXMLString());
+}
+
+TEST(ZOLConcrete, FootingInCubicYardsAndMetresWeighsTheSame) {
+    ZOLConcrete c;
+    c.setFootingLength(100);
+    c.setFootingWidth(20);
+    c.setFootingDepth(10);
+    EXPECT_NEAR(c.getFootingVolume(), 240000.0 / kCubicInchesPerYard, 1e-6); // 5.144
+    const double pounds = c.getFootingWeight();
+    EXPECT_NEAR(pounds, 19913.9, 0.05);
+    c.setMeasurement(1);
+    EXPECT_NEAR(c.getFootingVolume(), 3.933, 0.0005);
+    EXPECT_NEAR(c.getFootingWeight(), pounds, 1e-6);
+}
+
+TEST(ZOLConcrete, WallLosesItsOpeningsOnlyWhenAskedAndWithoutClamp) {
+    ZOLConcrete c;
+    c.setWallLength(100);
+    c.setWallThickness(6);
+    c.setWallHeight(8);
+    c.setSqFtOpenings(50);
+    EXPECT_NEAR(c.getWallVolume(), 691200.0 / kCubicInchesPerYard, 1e-6); // 14.815, flag clear
+    c.setRemoveSqFtOpenings(true);
+    EXPECT_NEAR(c.getWallVolume(), (691200.0 - 43200.0) / kCubicInchesPerYard, 1e-6); // 13.889
+    c.setSqFtOpenings(1000);
+    EXPECT_NEAR(c.getWallVolume(), (691200.0 - 864000.0) / kCubicInchesPerYard, 1e-6);
+    EXPECT_LT(c.getWallWeight(), 0.0);
+    c.setSlabLength(10); // the slab never loses openings
+    c.setSlabWidth(10);
+    c.setSlabDepth(4);
+    EXPECT_NEAR(c.getSlabVolume(), 1.235, 0.0005);
+}
+
+TEST(ZOLConcrete, PilesUseHalfTheDiameterInWholeInches) {
+    ZOLConcrete c;
+    c.setPileDiameter(12);
+    c.setPileDepth(10);
+    c.setPileCount(3);
+    const double twelve = c.getPileVolume();
+    EXPECT_NEAR(twelve, 3 * 36 * kPi * 120 / kCubicInchesPerYard, 1e-9); // 0.873
+    c.setPileDiameter(13);
+    EXPECT_DOUBLE_EQ(c.getPileVolume(), twelve);
+    c.setPileDiameter(15);
+    EXPECT_NEAR(c.getPileVolume(), 3 * 49 * kPi * 120 / kCubicInchesPerYard, 1e-9);
+    c.setPileCount(0);
+    EXPECT_EQ(c.getPileVolume() + c.getPileWeight(), 0.0);
+}
+
+TEST(ZOLConcreteCalculator, VolumesTestForMetresExactlyWhileWeightTestsForNotYards) {
+    EXPECT_EQ(Calc::getStringForMeasurement(0), "Y");
+    EXPECT_EQ(Calc::getStringForMeasurement(1), "M");
+    EXPECT_EQ(Calc::getStringForMeasurement(2), "Y");
+    EXPECT_EQ(Calc::calculateConcreteWithLength(1200, 20, 10, 2, 0.0),
+              Calc::calculateConcreteWithLength(1200, 20, 10, 0, 0.0));
+    EXPECT_NEAR(Calc::calculatePileConcreteWithDepth(120, 6, 1),
+                Calc::calculatePileConcreteWithDepth(120, 6, 0) * 0.76455485798, 1e-12);
+    EXPECT_EQ(Calc::calculatePileConcreteWithDepth(120, 6, -1),
+              Calc::calculatePileConcreteWithDepth(120, 6, 0));
+    EXPECT_NEAR(Calc::calculateConcreteWeightForVolume(1.0, 0), 27 * 143.38, 1e-4);
+    const double metre = Calc::calculateConcreteWeightForVolume(1.0, 1);
+    EXPECT_NEAR(metre, 27 * 143.38 / 0.76455485798, 1e-4);
+    EXPECT_EQ(Calc::calculateConcreteWeightForVolume(1.0, 2), metre);
+    EXPECT_EQ(Calc::calculateConcreteWeightForVolume(1.0, -1), metre);
+}
+
+TEST(ZOLConcrete, ExtremeInputsStayDefined) {
+    ZOLConcrete c;
+    c.setPileDiameter(kMin);
+    c.setPileDepth(1);
+    c.setPileCount(kMax);
+    EXPECT_GT(c.getPileVolume(), 0.0);
+    c.setFootingLength(NAN);
+    c.setFootingWidth(kMax);
+    c.setFootingDepth(kMin);
+    EXPECT_TRUE(std::isnan(c.getFootingWeight()));
+    // An infinite width times nothing to remove is not a number, and so is the pour.
+    c.setSlabLength(1e308);
+    c.setSlabWidth(1e308);
+    c.setSlabDepth(kMax);
+    EXPECT_TRUE(std::isnan(c.getSlabVolume()));
+    c.setSlabWidth(10);
+    EXPECT_EQ(c.getSlabVolume(), INFINITY);
+}
+
+TEST(ZOLConcrete, WritesFifteenFieldsAndReadsBackThirteen) {
+    ZOLConcrete written = readFilled();
+    written.setRemoveSqFtOpenings(true);
+    written.setSqFtOpenings(42.5);
+    EXPECT_EQ(written.getXMLString(), goldenFile("xml/concrete-filled.xml"));
+
+    // The openings flag and area have no code of their own; no code reaches them.
+    for (int32_t code = -1; code <= 100; ++code)
+        written.setValue("true", code);
+    EXPECT_TRUE(written.removeSqFtOpenings());
+    EXPECT_EQ(written.sqFtOpenings(), 42.5);
+    EXPECT_EQ(written.wallHeight(), 0.0); // "true" read as a number, as the reader does
+
+    ZOLConcrete c = readFilled();
+    c.setValue("Cubic Metres", 11);
+    EXPECT_EQ(c.measurement(), 1);
+    c.setValue("Imperial", 11);
+    EXPECT_EQ(c.measurement(), 0);
+}
+
+TEST(ZOLConcrete, IgnoresCodesOfOtherRecords) {
+    ZOLConcrete c = readFilled();
+    const std::string before = c.getXMLString();
+    for (int32_t code : {0, 10, 24, 29, 30, 37, 43, 44, 70, -1, kMax, kMin}) {
+        c.setValue("Imperial", code);
+        c.setValue("77", code);
+    }
+    EXPECT_EQ(c.getXMLString(), before);
+}
