@@ -1,0 +1,53 @@
+#include "model/ZOLTilt.h"
+
+#include "calc/ZOLTiltCalculator.h"
+#include "io/ZOLFormat.h"
+#include "io/ZOLText.h"
+
+ZOLTilt::ZOLTilt() {
+    clear();
+}
+
+void ZOLTilt::clear() {
+    wallHeight_ = 0.0;
+    wallLength_ = 0.0;
+}
+
+int32_t ZOLTilt::getPanels() const {
+    return ZOLTiltCalculator::calculatePanelsWithSqFtOfWall(wallLength_ * wallHeight_);
+}
+
+int32_t ZOLTilt::getPanelBundles() const {
+    return ZOLTiltCalculator::calculatePanelBundlesWithPanels(getPanels());
+}
+
+double ZOLTilt::getPanelWeight() const {
+    return ZOLTiltCalculator::calculatePanelWeightWithPanels(getPanels());
+}
+
+int32_t ZOLTilt::getInserts() const {
+    return ZOLTiltCalculator::calculateInsertsWithPanels(getPanels());
+}
+
+int32_t ZOLTilt::getInsertBundles() const {
+    return ZOLTiltCalculator::calculateInsertBundlesWithInserts(getInserts());
+}
+
+double ZOLTilt::getInsertWeight() const {
+    return ZOLTiltCalculator::calculateInsertWeightWithInserts(getInserts());
+}
+
+std::string ZOLTilt::getXMLString() const {
+    std::string xml = "\t\t\t<TiltData>\n";
+    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    xml += ZOLFormat::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    xml += "\t\t\t</TiltData>\n";
+    return xml;
+}
+
+void ZOLTilt::setValue(const std::optional<std::string>& value, int32_t forProperty) {
+    if (forProperty == 43)
+        wallHeight_ = ZOLText::leadingDouble(value);
+    else if (forProperty == 44)
+        wallLength_ = ZOLText::leadingDouble(value);
+}

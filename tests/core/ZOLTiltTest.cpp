@@ -1,0 +1,91 @@
+// Tilt-up panels: the panel count with its allowance, inserts, the single-precision bundle
+// counts with their extra bundle, weights, and the record's element.
+#include "model/ZOLTilt.h"
+#include "calc/ZOLTiltCalculator.h"
+#include "support/GoldenFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace {
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+using Calc = ZOLTiltCalculator;
+} // namespace
+
+TEST(ZOLTilt, HundredByTenFootWallAndAnEmptyOne) {
+    ZOLTilt t;
+    t.setWallLength(100);
+    t.setWallHeight(10);
+    EXPECT_EQ(t.getPanels(), 190); // 1000 / 5.33 x 1.01 = 189.49
+    EXPECT_EQ(t.getPanelBundles(), 17);
+    EXPECT_DOUBLE_EQ(t.getPanelWeight(), 665.0);
+    EXPECT_EQ(t.getInserts(), 570);
+    EXPECT_EQ(t.getInsertBundles(), 3);
+    EXPECT_NEAR(t.getInsertWeight(), 28.5, 1e-9);
+    t.clear();
+    EXPECT_EQ(t.getPanels() + t.getPanelBundles() + t.getInserts() + t.getInsertBundles(), 0);
+    EXPECT_EQ(t.getPanelWeight() + t.getInsertWeight(), 0.0);
+}
+
+TEST(ZOLTiltCalculator, PanelCountDividesByCoverageBeforeTheAllowance) {
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(5.33), 2);
+    // 38,909 sq ft need exactly 7373 panels; multiplying first would tip over to 7374.
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(38909), 7373);
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(-10), -1);
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(NAN), 0);
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(1e300), kMax);
+    EXPECT_EQ(Calc::calculatePanelsWithSqFtOfWall(-INFINITY), kMin);
+}
+
+TEST(ZOLTiltCalculator, BundlesAddOneWhenTheCountIsNotAMultipleOfTheBundleSize) {
+    const std::pair<int32_t, int32_t> panels[] = {{0, 0},    {1, 2},    {12, 2}, {13, 3},
+                                                  {144, 12}, {145, 14}, {-13, 0}};
+    for (const auto& [count, bundles] : panels)
+        EXPECT_EQ(Calc::calculatePanelBundlesWithPanels(count), bundles) << count;
+    const std::pair<int32_t, int32_t> inserts[] = {{0, 0}, {300, 2}, {570, 3}, {90000, 300}};
+    for (const auto& [count, bundles] : inserts)
+        EXPECT_EQ(Calc::calculateInsertBundlesWithInserts(count), bundles) << count;
+}
+
+TEST(ZOLTiltCalculator, BundleDivisionIsSinglePrecision) {
+    // Above 2^24 a float drops the last unit: 16,777,225 panels divide as 16,777,224, an
+    // exact 1,398,102 bundles (double precision would round up once more).
+    EXPECT_EQ(Calc::calculatePanelBundlesWithPanels(16777225), 1398103);
+    EXPECT_EQ(Calc::calculateInsertBundlesWithInserts(16777501), 55926);
+    EXPECT_EQ(Calc::calculatePanelBundlesWithPanels(kMax), 178956977);
+    EXPECT_EQ(Calc::calculatePanelBundlesWithPanels(kMin), -178956975);
+}
+
+TEST(ZOLTiltCalculator, InsertsAndWeightsWrapOrScaleWithoutOverflow) {
+    EXPECT_EQ(Calc::calculateInsertsWithPanels(-2), -6);
+    EXPECT_EQ(Calc::calculateInsertsWithPanels(kMax), 2147483645);
+    EXPECT_EQ(Calc::calculateInsertsWithPanels(kMin), kMin);
+    EXPECT_DOUBLE_EQ(Calc::calculatePanelWeightWithPanels(kMax), kMax * 3.5);
+    EXPECT_DOUBLE_EQ(Calc::calculateInsertWeightWithInserts(20), 1.0);
+    ZOLTilt t;
+    t.setWallLength(1e200);
+    t.setWallHeight(1e200);
+    EXPECT_EQ(t.getInserts(), 2147483645);
+    EXPECT_GT(t.getInsertBundles(), 0);
+    t.setWallLength(INFINITY);
+    t.setWallHeight(0); // infinity times nothing is not a number: no panels
+    EXPECT_EQ(t.getPanels(), 0);
+}
+
+TEST(ZOLTilt, WritesAndReadsItsElement) {
+    EXPECT_EQ(ZOLTilt().getXMLString(), goldenFile("xml/tilt-default.xml"));
+    ZOLTilt t;
+    t.setValue("10.667", 43);
+    t.setValue("100", 44);
+    EXPECT_EQ(t.getXMLString(), goldenFile("xml/tilt-filled.xml"));
+    for (int32_t code : {0, 21, 23, 30, 37, 42, 45, 46, 47, 74, -1, kMax, kMin})
+        t.setValue("5", code);
+    EXPECT_EQ(t.getXMLString(), goldenFile("xml/tilt-filled.xml"));
+    t.setValue("height", 43);
+    t.setValue(std::nullopt, 44);
+    EXPECT_EQ(t.wallHeight() + t.wallLength(), 0.0);
+}
