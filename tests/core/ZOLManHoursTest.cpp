@@ -1,0 +1,227 @@
+// Labour: every rating scale at its band edges, the total project rating, the man-hour rate
+// table, hours and days, the whole-number forms, the three judgement lists and the file.
+#include "model/ZOLManHours.h"
+#include "calc/ZOLManHourCalculator.h"
+#include "support/GoldenFile.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace {
+constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
+constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
+using Calc = ZOLManHourCalculator;
+
+struct Band {
+    double a, b;
+    int32_t rating;
+};
+
+// Codes 70 to 80 as the file reader hands them over.
+ZOLManHours readFilled() {
+    const std::pair<int32_t, const char*> values[] = {
+        {70, "2450.5"}, {71, "14"},       {72, "180.25"}, {73, "36"},
+        {74, "10.667"}, {75, "AboveAvg"}, {76, "High"},   {77, "Ideal"},
+        {78, "4"},      {79, "32.75"},    {80, "4"}};
+    ZOLManHours h;
+    for (const auto& [code, text] : values)
+        h.setValue(text, code);
+    return h;
+}
+} // namespace
+
+TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
+    ZOLManHours h;
+    EXPECT_EQ(h.getXMLString(), goldenFile("xml/manhours-default.xml"));
+    EXPECT_EQ(h.crewSize(), 6);
+    EXPECT_EQ(h.getCornersAndTsRating() + h.getLinearFeetCorbelCurbTaperedRating() +
+                  h.getSquareFeetOfOpeningsRating(),
+              3);
+    EXPECT_EQ(h.getCrewSizeRating(), 3);
+    EXPECT_EQ(h.getSquareFeetOfWallRating(), 5);
+    EXPECT_EQ(h.getWallHeightRating(), 3);
+    EXPECT_EQ(h.getTotalProjectRating(), 27);
+    EXPECT_EQ(h.getManHourRate(), 0.08);
+    EXPECT_EQ(h.getHoursToComplete() + h.getDaysToComplete(), 0.0);
+    ZOLManHours cleared = readFilled();
+    cleared.clear();
+    EXPECT_EQ(cleared.getXMLString(), h.getXMLString());
+}
+
+TEST(ZOLManHourCalculator, RatingScalesAtTheirBandEdges) {
+    const Band sqFt[] = {{6000, 0, 1}, {5999.9, 0, 2}, {4000, 0, 2}, {3999.99, 0, 3}, {2000, 0, 3},
+                         {1000, 0, 4}, {999.99, 0, 5}, {0, 0, 5},    {NAN, 0, 5}};
+    for (const Band& x : sqFt)
+        EXPECT_EQ(Calc::getSqFtWallRatingWithSqFtOfWall(x.a), x.rating) << x.a;
+    // Corners and Ts per square foot: a narrow first band, a wide second one.
+    const Band corners[] = {{0, 1000, 1},  {50, 0, 1},    {3, 1000, 1},  {4, 1000, 3},
+                            {45, 1000, 3}, {451, 1e4, 5}, {60, 1000, 5}, {70, 1000, 7},
+                            {71, 1000, 9}, {-5, 1000, 1}, {5, NAN, 9}};
+    for (const Band& x : corners)
+        EXPECT_EQ(Calc::getCornerTsRatingWithNumberOfCornersAndTs(static_cast<int32_t>(x.a), x.b),
+                  x.rating)
+            << x.a << " / " << x.b;
+    const Band openings[] = {{0, 1000, 1},  {500, 0, 1},   {30, 1000, 1},  {31, 1000, 3},
+                             {60, 1000, 3}, {90, 1000, 5}, {200, 1000, 7}, {201, 1000, 9}};
+    for (const Band& x : openings)
+        EXPECT_EQ(Calc::getOpeningsRatingWithSqFtOfOpenings(x.a, x.b), x.rating) << x.a;
+    const Band corbel[] = {{500, 0, 1},   {0, 1000, 1},   {20, 1000, 1},  {21, 1000, 3},
+                           {50, 1000, 3}, {100, 1000, 5}, {150, 1000, 7}, {151, 1000, 9}};
+    for (const Band& x : corbel)
+        EXPECT_EQ(Calc::getCorbelCurbTaperRatingWithLinealFeet(x.a, x.b), x.rating) << x.a;
+    // The fourth height band is 8, not 7.
+    const Band height[] = {{0, 0, 1},    {4, 0, 1},  {4.01, 0, 3},  {10, 0, 3},      {12, 0, 5},
+                           {12.5, 0, 8}, {20, 0, 8}, {20.01, 0, 9}, {INFINITY, 0, 9}};
+    for (const Band& x : height)
+        EXPECT_EQ(Calc::getWallHeightRatingWithWallHeight(x.a), x.rating) << x.a;
+    const Band crew[] = {{6, 0, 3},    {0, 1000, 3}, {3, 1000, 3}, {4, 1000, 4}, {45, 1e4, 4},
+                         {6, 1000, 5}, {7, 1000, 7}, {75, 1e4, 7}, {8, 1000, 9}};
+    for (const Band& x : crew)
+        EXPECT_EQ(Calc::getCrewSizeRatingWithCrewSize(static_cast<int32_t>(x.a), x.b), x.rating)
+            << x.a << " / " << x.b;
+    EXPECT_EQ(Calc::getOtherTurnsRatingWithNumberOfOtherTurns(-3), -3);
+}
+
+TEST(ZOLManHourCalculator, RateTableByTotalRating) {
+    const std::pair<int32_t, double> table[] = {
+        {kMin, 0.05}, {15, 0.05},  {16, 0.055}, {17, 0.055}, {18, 0.06},  {19, 0.06},  {20, 0.065},
+        {21, 0.065},  {22, 0.07},  {23, 0.07},  {24, 0.075}, {25, 0.075}, {26, 0.08},  {27, 0.08},
+        {28, 0.085},  {29, 0.085}, {30, 0.09},  {31, 0.09},  {32, 0.095}, {33, 0.095}, {34, 0.1},
+        {35, 0.1},    {36, 0.11},  {37, 0.11},  {38, 0.12},  {39, 0.12},  {40, 0.125}, {41, 0.125},
+        {42, 0.13},   {43, 0.13},  {44, 0.14},  {45, 0.14},  {46, 0.15},  {kMax, 0.15}};
+    for (const auto& [rating, rate] : table)
+        EXPECT_EQ(Calc::getManHourRateWithRating(rating), rate) << "rating " << rating;
+}
+
+TEST(ZOLManHourCalculator, HoursAndDaysInBothForms) {
+    EXPECT_NEAR(Calc::getHoursToCompleteWithRating(30, 1000), 90.0, 1e-9);
+    EXPECT_NEAR(Calc::getDaysToCompleteWithRating(30, 1000, 6), 90.0 / 51.0, 1e-12);
+    EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0);
+
+    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(100.5, 1), 101);
+    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(NAN, 1), 0);
+    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(1e300, 1e10), kMax);
+    EXPECT_EQ(Calc::calculateDaysWithHours(0, 6), 1); // at least one day
+    EXPECT_EQ(Calc::calculateDaysWithHours(51, 6), 1);
+    EXPECT_EQ(Calc::calculateDaysWithHours(52, 6), 2);
+    EXPECT_EQ(Calc::calculateDaysWithHours(10, 0), kMax);
+    EXPECT_EQ(Calc::calculateDaysWithHours(kMax, kMin), 0);
+}
+
+TEST(ZOLManHours, TotalAddsEveryRatingOnce) {
+    ZOLManHours h;
+    h.setSquareFeetOfWall(1000);           // wall 4, crew of 6 rates 5
+    h.setCornersAndTs(45);                 // 3
+    h.setSquareFeetOfOpenings(90);         // 5
+    h.setLinearFeetCorbelCurbTapered(150); // 7
+    h.setWallHeight(20);                   // 8
+    h.setRebarComplexity(9);
+    h.setCrewExperience(2);
+    h.setSiteConditions(3);
+    h.setOtherTurns(11);
+    EXPECT_EQ(h.getTotalProjectRating(), 4 + 5 + 3 + 5 + 7 + 8 + 9 + 2 + 3 + 11);
+
+    ZOLManHours job; // 1000 sq ft at total 30: 90 hours, 90 / 51 days for six
+    job.setSquareFeetOfWall(1000);
+    job.setOtherTurns(2);
+    EXPECT_EQ(job.getTotalProjectRating(), 30);
+    EXPECT_NEAR(job.getHoursToComplete(), 90.0, 1e-9);
+    EXPECT_NEAR(job.getDaysToComplete(), 1.7647, 1e-4);
+}
+
+TEST(ZOLManHours, AbsurdCountsWrapInsteadOfOverflowing) {
+    ZOLManHours h;
+    h.setOtherTurns(kMax);
+    h.setRebarComplexity(kMax);
+    h.setCrewExperience(kMin);
+    h.setCrewSize(kMin);
+    h.setCornersAndTs(kMax);
+    h.setSquareFeetOfWall(NAN);
+    // A wall that is not a number passes no band test: corners, crew and corbel rate 9,
+    // square feet 5. 9 + MIN + 9 + 9 + MAX + 5 + 1 + 5 + 3 + MAX wraps round to MIN + 39.
+    EXPECT_EQ(h.getTotalProjectRating(), kMin + 39);
+    EXPECT_EQ(h.getManHourRate(), 0.05);
+    EXPECT_TRUE(std::isnan(h.getDaysToComplete()));
+}
+
+TEST(ZOLManHourCalculator, JudgementListsConvertBetweenIndexRatingAndWord) {
+    const int32_t complexityIndex[] = {2, 0, 1, 2, 2, 2, 3, 2, 2, 4, 2}; // ratings 0 to 10
+    const int32_t conditionIndex[] = {1, 1, 1, 2, 1, 1, 1, 1, 1, 0, 1};
+    const int32_t experienceIndex[] = {1, 1, 2, 1, 1, 1, 1, 1, 1, 0, 1};
+    for (int32_t rating = 0; rating <= 10; ++rating) {
+        EXPECT_EQ(Calc::getComplexityRatingIndex(rating), complexityIndex[rating]) << rating;
+        EXPECT_EQ(Calc::getConditionRatingIndex(rating), conditionIndex[rating]) << rating;
+        EXPECT_EQ(Calc::getExperienceRatingIndex(rating), experienceIndex[rating]) << rating;
+    }
+    EXPECT_EQ(Calc::getComplexityRatingIndex(kMin), 2);
+
+    const int32_t complexity[] = {1, 2, 3, 6, 9, 3}, experience[] = {9, 5, 2, 5},
+                  condition[] = {9, 5, 3, 5};
+    for (uint64_t i = 0; i < 6; ++i)
+        EXPECT_EQ(Calc::getComplexityRatingForIndex(i), complexity[i]);
+    for (uint64_t i = 0; i < 4; ++i) {
+        EXPECT_EQ(Calc::getExperienceRatingForIndex(i), experience[i]);
+        EXPECT_EQ(Calc::getConditionRatingForIndex(i), condition[i]);
+    }
+    const uint64_t noSelection = static_cast<uint64_t>(-1);
+    EXPECT_EQ(Calc::getComplexityRatingForIndex(noSelection), 3);
+    EXPECT_EQ(Calc::getExperienceRatingForIndex(noSelection), 5);
+    EXPECT_EQ(Calc::getConditionRatingForIndex(noSelection), 5);
+
+    const char* complexityWords[] = {"Average", "None",          "Minor",   "Average", "Average",
+                                     "Average", "Above Average", "Average", "Average", "Intense"};
+    for (int32_t rating = 0; rating <= 9; ++rating)
+        EXPECT_EQ(Calc::getComplexityRatingText(rating), complexityWords[rating]);
+    EXPECT_EQ(Calc::getExperienceRatingText(2), "High");
+    EXPECT_EQ(Calc::getExperienceRatingText(9), "Low");
+    EXPECT_EQ(Calc::getExperienceRatingText(3), "Average");
+    EXPECT_EQ(Calc::getConditionRatingText(3), "Ideal");
+    EXPECT_EQ(Calc::getConditionRatingText(9), "Poor");
+    EXPECT_EQ(Calc::getConditionRatingText(2), "Average");
+}
+
+TEST(ZOLManHours, WritesAndReadsJudgementsAsTheFilesWords) {
+    EXPECT_EQ(readFilled().getXMLString(), goldenFile("xml/manhours-filled.xml"));
+    ZOLManHours h;
+    h.setRebarComplexity(4);
+    h.setCrewExperience(3);
+    h.setSiteConditions(2);
+    EXPECT_NE(h.getXMLString().find("<RebarComplexity>(null)</RebarComplexity>\n\t\t\t\t"
+                                    "<CrewExperience>(null)</CrewExperience>\n\t\t\t\t"
+                                    "<SiteConditions>(null)</SiteConditions>"),
+              std::string::npos);
+
+    const std::pair<const char*, int32_t> words[] = {
+        {"None", 1}, {"Minor", 2}, {"Average", 3}, {"AboveAvg", 6}, {"Intense", 9}};
+    for (const auto& [word, rating] : words) {
+        h.setValue(word, 75);
+        EXPECT_EQ(h.rebarComplexity(), rating) << word;
+    }
+    h.setValue("Low", 76);
+    h.setValue("Poor", 77);
+    EXPECT_EQ(h.crewExperience(), 9);
+    EXPECT_EQ(h.siteConditions(), 9);
+    // Words the element does not use leave the judgement as it was: the screen's
+    // "Above Average", the written "(null)", another element's word, an absent text.
+    for (const char* other : {"Above Average", "(null)", "intense", "9", ""})
+        for (int32_t code : {75, 76, 77})
+            h.setValue(other, code);
+    h.setValue("Ideal", 76);
+    h.setValue("High", 77);
+    h.setValue(std::nullopt, 75);
+    EXPECT_EQ(h.rebarComplexity(), 9);
+    EXPECT_EQ(h.crewExperience(), 9);
+    EXPECT_EQ(h.siteConditions(), 9);
+}
+
+TEST(ZOLManHours, IgnoresCodesOfOtherRecords) {
+    ZOLManHours h = readFilled();
+    for (int32_t code : {0, 5, 11, 23, 29, 42, 43, 44, 46, 69, 81, 84, -1, kMax, kMin}) {
+        h.setValue("77", code);
+        h.setValue("Average", code);
+    }
+    EXPECT_EQ(h.getXMLString(), goldenFile("xml/manhours-filled.xml"));
+}
