@@ -10,9 +10,8 @@
 namespace {
 
 zolcli::Registrar reg("calc-concrete", [](CLI::App& root) {
-    CLI::App& calc = zolcli::group(root, "calc",
-                                   "Compute one record from its fields given as options, "
-                                   "without a workbook");
+    CLI::App& calc =
+        zolcli::group(root, "calc", "Quick estimates of one record from options, no workbook");
     CLI::App* cmd = calc.add_subcommand(
         "concrete", "Volume and weight of concrete for a footing, piles, a slab and a wall");
     auto concrete = std::make_shared<ZOLConcrete>();

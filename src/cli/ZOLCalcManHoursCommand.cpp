@@ -10,9 +10,8 @@
 namespace {
 
 zolcli::Registrar reg("calc-manhours", [](CLI::App& root) {
-    CLI::App& calc = zolcli::group(root, "calc",
-                                   "Compute one record from its fields given as options, "
-                                   "without a workbook");
+    CLI::App& calc =
+        zolcli::group(root, "calc", "Quick estimates of one record from options, no workbook");
     CLI::App* cmd = calc.add_subcommand(
         "manhours", "Labour ratings, man-hour rate, hours and days of the crew for one job");
     cmd->footer("The three judgements take the stored rating, not a list position.");

@@ -14,9 +14,8 @@ const char* const kSizeHelp =
     "Metric 1=10M 2=15M 3=20M 4=25M (default 1)";
 
 zolcli::Registrar reg("calc-rebar", [](CLI::App& root) {
-    CLI::App& calc = zolcli::group(root, "calc",
-                                   "Compute one record from its fields given as options, "
-                                   "without a workbook");
+    CLI::App& calc =
+        zolcli::group(root, "calc", "Quick estimates of one record from options, no workbook");
     CLI::App* cmd = calc.add_subcommand(
         "rebar", "Linear feet of horizontal bars, vertical bars and dowels for one wall");
     cmd->footer("Laps, spacings and the dowel length count in whole feet (11 inches are no foot): "

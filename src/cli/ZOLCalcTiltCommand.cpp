@@ -10,9 +10,8 @@
 namespace {
 
 zolcli::Registrar reg("calc-tilt", [](CLI::App& root) {
-    CLI::App& calc = zolcli::group(root, "calc",
-                                   "Compute one record from its fields given as options, "
-                                   "without a workbook");
+    CLI::App& calc =
+        zolcli::group(root, "calc", "Quick estimates of one record from options, no workbook");
     CLI::App* cmd = calc.add_subcommand(
         "tilt", "Tilt-up panels and inserts for one side of a wall: counts, bundles, weights");
     auto tilt = std::make_shared<ZOLTilt>();

@@ -92,7 +92,7 @@ std::optional<std::string> rebarSizeName(int32_t measurement, int32_t size) {
 
 nlohmann::json rebarJson(const ZOLRebar& rebar) {
     const int32_t m = rebar.measurement();
-    return nlohmann::json{
+    nlohmann::json fields{
         {"measurement", m},
         {"wallLength", number(rebar.wallLength())},
         {"wallHeight", number(rebar.wallHeight())},
@@ -107,6 +107,9 @@ nlohmann::json rebarJson(const ZOLRebar& rebar) {
         {"dowelSize", rebar.dowelSize()},
         {"dowelSpacing", rebar.dowelSpacing()},
         {"dowelLength", rebar.dowelLength()},
+    };
+    return nlohmann::json{
+        {"fields", std::move(fields)},
         {"getHorizontalLength1", number(rebar.getHorizontalLength1())},
         {"getHorizontalLength2", number(rebar.getHorizontalLength2())},
         {"getVerticalLength", number(rebar.getVerticalLength())},
@@ -119,7 +122,7 @@ nlohmann::json rebarJson(const ZOLRebar& rebar) {
 }
 
 nlohmann::json concreteJson(const ZOLConcrete& c) {
-    return nlohmann::json{
+    nlohmann::json fields{
         {"measurement", c.measurement()},
         {"footingWidth", c.footingWidth()},
         {"footingLength", number(c.footingLength())},
@@ -135,6 +138,9 @@ nlohmann::json concreteJson(const ZOLConcrete& c) {
         {"wallHeight", number(c.wallHeight())},
         {"removeSqFtOpenings", c.removeSqFtOpenings()},
         {"sqFtOpenings", number(c.sqFtOpenings())},
+    };
+    return nlohmann::json{
+        {"fields", std::move(fields)},
         {"getFootingVolume", number(c.getFootingVolume())},
         {"getFootingWeight", number(c.getFootingWeight())},
         {"getPileVolume", number(c.getPileVolume())},
@@ -148,8 +154,8 @@ nlohmann::json concreteJson(const ZOLConcrete& c) {
 
 nlohmann::json tiltJson(const ZOLTilt& tilt) {
     return nlohmann::json{
-        {"wallHeight", number(tilt.wallHeight())},
-        {"wallLength", number(tilt.wallLength())},
+        {"fields",
+         {{"wallHeight", number(tilt.wallHeight())}, {"wallLength", number(tilt.wallLength())}}},
         {"getPanels", tilt.getPanels()},
         {"getPanelBundles", tilt.getPanelBundles()},
         {"getPanelWeight", number(tilt.getPanelWeight())},
@@ -160,7 +166,7 @@ nlohmann::json tiltJson(const ZOLTilt& tilt) {
 }
 
 nlohmann::json manHoursJson(const ZOLManHours& h) {
-    return nlohmann::json{
+    nlohmann::json fields{
         {"squareFeetOfWall", number(h.squareFeetOfWall())},
         {"cornersAndTs", h.cornersAndTs()},
         {"squareFeetOfOpenings", number(h.squareFeetOfOpenings())},
@@ -172,6 +178,9 @@ nlohmann::json manHoursJson(const ZOLManHours& h) {
         {"otherTurns", h.otherTurns()},
         {"laborCost", number(h.laborCost())},
         {"crewSize", h.crewSize()},
+    };
+    return nlohmann::json{
+        {"fields", std::move(fields)},
         {"getSquareFeetOfWallRating", h.getSquareFeetOfWallRating()},
         {"getCornersAndTsRating", h.getCornersAndTsRating()},
         {"getSquareFeetOfOpeningsRating", h.getSquareFeetOfOpeningsRating()},

@@ -21,6 +21,9 @@ namespace zolcli {
 // has no such entry (an Imperial "#8" left on a Metric record, or a damaged size).
 std::optional<std::string> rebarSizeName(int32_t measurement, int32_t size);
 
+// Every `get...` query under its own name and the record's fields under "fields", as
+// `zolest calc wall` gives the wall; rebar adds the four size names ("horizontalSize1Name"
+// and so on, null where the list has none), man hours the three judgement words.
 nlohmann::json rebarJson(const ZOLRebar& rebar);
 nlohmann::json concreteJson(const ZOLConcrete& concrete);
 nlohmann::json tiltJson(const ZOLTilt& tilt);

@@ -33,15 +33,17 @@ TEST(ZolestCalcRebar, JsonHoldsEveryFieldLengthAndSizeName) {
     const auto j = runJson({"rebar", "--wallLength", "100", "--horizontalRowCount1", "2",
                             "--horizontalLap1", "30", "--verticalSpacing", "24", "--dowelSpacing",
                             "24", "--dowelLength", "30", "--horizontalSize2", "3"});
+    EXPECT_EQ(keysOf(j),
+              (std::set<std::string>{"fields", "getHorizontalLength1", "getHorizontalLength2",
+                                     "getVerticalLength", "getDowelLength", "horizontalSize1Name",
+                                     "horizontalSize2Name", "verticalSizeName", "dowelSizeName"}));
     EXPECT_EQ(
-        keysOf(j),
-        (std::set<std::string>{
-            "measurement",         "wallLength",     "wallHeight",           "horizontalSize1",
-            "horizontalRowCount1", "horizontalLap1", "horizontalSize2",      "horizontalRowCount2",
-            "horizontalLap2",      "verticalSize",   "verticalSpacing",      "dowelSize",
-            "dowelSpacing",        "dowelLength",    "getHorizontalLength1", "getHorizontalLength2",
-            "getVerticalLength",   "getDowelLength", "horizontalSize1Name",  "horizontalSize2Name",
-            "verticalSizeName",    "dowelSizeName"}));
+        keysOf(j["fields"]),
+        (std::set<std::string>{"measurement", "wallLength", "wallHeight", "horizontalSize1",
+                               "horizontalRowCount1", "horizontalLap1", "horizontalSize2",
+                               "horizontalRowCount2", "horizontalLap2", "verticalSize",
+                               "verticalSpacing", "dowelSize", "dowelSpacing", "dowelLength"}));
+    EXPECT_EQ(j["fields"]["horizontalLap1"], 30);
     EXPECT_EQ(j["getHorizontalLength1"], 220.0);
     EXPECT_EQ(j["getVerticalLength"], 400.0);
     EXPECT_EQ(j["getDowelLength"], 100.0);
@@ -55,7 +57,7 @@ TEST(ZolestCalcRebar, JsonHoldsEveryFieldLengthAndSizeName) {
     EXPECT_TRUE(metric["dowelSizeName"].is_null()); // an Imperial #8 has no Metric name
     EXPECT_TRUE(metric["verticalSizeName"].is_null());
     EXPECT_TRUE(metric["getVerticalLength"].is_null()); // 6 inches is no whole foot
-    EXPECT_TRUE(runJson({"rebar", "--wallLength", "nan"})["wallLength"].is_null());
+    EXPECT_TRUE(runJson({"rebar", "--wallLength", "nan"})["fields"]["wallLength"].is_null());
 }
 
 TEST(ZolestCalcConcreteAndTilt, JsonHoldsEveryPourAndEveryCount) {
@@ -64,7 +66,10 @@ TEST(ZolestCalcConcreteAndTilt, JsonHoldsEveryPourAndEveryCount) {
          "10",       "--wallLength",         "100",  "--wallThickness", "6",  "--wallHeight",
          "8",        "--removeSqFtOpenings", "true", "--sqFtOpenings",  "50", "--slabLength",
          "inf",      "--slabWidth",          "10",   "--slabDepth",     "4"});
-    EXPECT_EQ(keysOf(c).size(), 23u); // fifteen fields and eight queries
+    EXPECT_EQ(keysOf(c).size(), 9u); // the fields and eight queries
+    EXPECT_EQ(keysOf(c["fields"]).size(), 15u);
+    EXPECT_EQ(c["fields"]["removeSqFtOpenings"], true);
+    EXPECT_TRUE(c["fields"]["slabLength"].is_null());
     EXPECT_NEAR(c["getFootingVolume"].get<double>(), 5.144, 0.0005);
     EXPECT_NEAR(c["getFootingWeight"].get<double>(), 19913.9, 0.05);
     EXPECT_NEAR(c["getWallVolume"].get<double>(), 13.889, 0.0005);
@@ -72,9 +77,10 @@ TEST(ZolestCalcConcreteAndTilt, JsonHoldsEveryPourAndEveryCount) {
     EXPECT_TRUE(c["getSlabVolume"].is_null());
 
     const auto t = runJson({"tilt", "--wallLength", "100", "--wallHeight", "10"});
-    EXPECT_EQ(keysOf(t), (std::set<std::string>{"wallHeight", "wallLength", "getPanels",
-                                                "getPanelBundles", "getPanelWeight", "getInserts",
-                                                "getInsertBundles", "getInsertWeight"}));
+    EXPECT_EQ(keysOf(t["fields"]), (std::set<std::string>{"wallHeight", "wallLength"}));
+    EXPECT_EQ(keysOf(t),
+              (std::set<std::string>{"fields", "getPanels", "getPanelBundles", "getPanelWeight",
+                                     "getInserts", "getInsertBundles", "getInsertWeight"}));
     EXPECT_EQ(t["getPanels"], 190);
     EXPECT_EQ(t["getPanelBundles"], 17);
     EXPECT_EQ(t["getInserts"], 570);
@@ -85,7 +91,9 @@ TEST(ZolestCalcManHours, JsonHoldsRatingsResultsAndJudgementWords) {
     const auto j =
         runJson({"manhours", "--squareFeetOfWall", "1000", "--otherTurns", "2", "--rebarComplexity",
                  "6", "--crewExperience", "2", "--siteConditions", "4"});
-    EXPECT_EQ(keysOf(j).size(), 25u); // eleven fields, eleven queries, three words
+    EXPECT_EQ(keysOf(j).size(), 15u); // the fields, eleven queries, three words
+    EXPECT_EQ(keysOf(j["fields"]).size(), 11u);
+    EXPECT_EQ(j["fields"]["rebarComplexity"], 6);
     EXPECT_EQ(j["rebarComplexityText"], "Above Average");
     EXPECT_EQ(j["crewExperienceText"], "High");
     EXPECT_EQ(j["siteConditionsText"], "Average"); // 4 is not in the list
