@@ -1,0 +1,214 @@
+// The Openings tab driven through its widgets: adding and removing rows, editing cells in
+// place, the remove-sill box, the totals and sending them to the wall.
+#include "ui/ZOLOpeningsEntryViewController.h"
+#include "model/ZOLOpening.h"
+#include "model/ZOLOpenings.h"
+#include "model/ZOLWall.h"
+#include "support/AlertRecorder.h"
+
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
+#include <QtTest>
+
+#include <memory>
+
+class ZOLOpeningsEntryViewControllerTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<ZOLOpeningsEntryViewController> screen;
+    std::shared_ptr<ZOLOpenings> openings;
+    std::shared_ptr<ZOLWall> wall;
+
+    QTableWidget* table() { return screen->findChild<QTableWidget*>("openingsTable"); }
+    QPushButton* button(const char* name) { return screen->findChild<QPushButton*>(name); }
+    QString total(const char* name) { return screen->findChild<QLineEdit*>(name)->text(); }
+    int column(const char* identifier) {
+        for (int c = 0; c < table()->columnCount(); ++c)
+            if (ZOLOpeningsEntryViewController::columnIdentifier(c) == QLatin1String(identifier))
+                return c;
+        qFatal("no column %s", identifier);
+    }
+    std::vector<int32_t> rowNumbers() {
+        std::vector<int32_t> numbers;
+        for (const auto& o : openings->openingList())
+            numbers.push_back(o->rowNumber());
+        return numbers;
+    }
+    // Edits a cell the way a user does: open the editor, type, press Return.
+    void typeInCell(int row, const char* identifier, const QString& keys) {
+        QTableWidgetItem* item = table()->item(row, column(identifier));
+        table()->setCurrentItem(item);
+        table()->editItem(item);
+        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        QVERIFY(editor);
+        editor->selectAll();
+        QTest::keyClicks(editor, keys);
+        QTest::keyClick(editor, Qt::Key_Return);
+        // The table commits the editor's text once the key has been handled.
+        QCoreApplication::processEvents();
+    }
+    QString cell(int row, const char* identifier) {
+        return table()->item(row, column(identifier))->text();
+    }
+
+private slots:
+    void init() {
+        openings = std::make_shared<ZOLOpenings>();
+        wall = std::make_shared<ZOLWall>();
+        screen = std::make_unique<ZOLOpeningsEntryViewController>();
+        screen->setOpeningData(openings);
+        screen->setWallData(wall);
+        screen->loadValues();
+        screen->show();
+        QVERIFY(QTest::qWaitForWindowExposed(screen.get()));
+    }
+    void cleanup() { screen.reset(); }
+
+    void addingAndRemovingNumbersTheRows() {
+        for (int i = 0; i < 3; ++i)
+            button("addOpening")->click();
+        QCOMPARE(table()->rowCount(), 3);
+        QCOMPARE(rowNumbers(), (std::vector<int32_t>{0, 1, 2}));
+        // The table shows positions from 1 whatever is stored.
+        QCOMPARE(cell(0, "RowNumber"), QString("1"));
+        QCOMPARE(cell(2, "RowNumber"), QString("3"));
+        const auto& fresh = *openings->openingList()[1];
+        QCOMPARE(fresh.numberOfOpenings(), 0);
+        QVERIFY(fresh.useSill());
+
+        // Nothing selected: nothing removed.
+        table()->clearSelection();
+        button("removeOpening")->click();
+        QCOMPARE(openings->openingList().size(), size_t(3));
+
+        const auto second = openings->openingList()[1];
+        table()->selectRow(0);
+        button("removeOpening")->click();
+        QCOMPARE(table()->rowCount(), 2);
+        QCOMPARE(rowNumbers(), (std::vector<int32_t>{1, 2}));
+        QCOMPARE(openings->openingList()[0], second);
+        QCOMPARE(cell(0, "RowNumber"), QString("1"));
+    }
+
+    void cellEditsWriteTheRowAndTheTotals() {
+        button("addOpening")->click();
+        typeInCell(0, "NumberOfOpenings", "2");
+        typeInCell(0, "Width", "36");
+        typeInCell(0, "Height", "48");
+        const auto& row = *openings->openingList()[0];
+        QCOMPARE(row.numberOfOpenings(), 2);
+        QCOMPARE(row.openingWidth(), 36.0);
+        QCOMPARE(row.openingHeight(), 48.0);
+        QCOMPARE(cell(0, "Width"), QString("36.00"));
+        QCOMPARE(cell(0, "NetSqFt"), QString("12.00"));
+        QCOMPARE(cell(0, "TotalSqFt"), QString("24.00"));
+        QCOMPARE(cell(0, "NetLF"), QString("14.67"));
+        QCOMPARE(cell(0, "TotalLF"), QString("29.34"));
+        QCOMPARE(total("totalSqFt"), QString("24.00 Sq Ft"));
+        QCOMPARE(total("totalLF"), QString("29.34 LF"));
+
+        // Text is read by what it starts with; letters alone give 0.
+        typeInCell(0, "Width", "30in");
+        QCOMPARE(row.openingWidth(), 30.0);
+        typeInCell(0, "NumberOfOpenings", "abc");
+        QCOMPARE(row.numberOfOpenings(), 0);
+        QCOMPARE(cell(0, "NumberOfOpenings"), QString("0"));
+        QCOMPARE(total("totalSqFt"), QString("0.00 Sq Ft"));
+
+        // The computed columns cannot be edited.
+        QVERIFY(!(table()->item(0, column("NetSqFt"))->flags() & Qt::ItemIsEditable));
+        QVERIFY(!(table()->item(0, column("RowNumber"))->flags() & Qt::ItemIsEditable));
+    }
+
+    void removeSillBoxIsTheInverseOfTheSill() {
+        button("addOpening")->click();
+        typeInCell(0, "NumberOfOpenings", "1");
+        typeInCell(0, "Width", "36");
+        typeInCell(0, "Height", "48");
+        QTableWidgetItem* box = table()->item(0, column("RemoveSill"));
+        QCOMPARE(box->checkState(), Qt::Unchecked);
+        QCOMPARE(openings->getTotalLinearFeetOfBuck(), 14.67);
+
+        box->setCheckState(Qt::Checked);
+        const auto& row = *openings->openingList()[0];
+        QVERIFY(!row.useSill());
+        QCOMPARE(openings->getTotalLinearFeetOfBuck(), 11.67);
+        // The sill changes the buck only: square and linear feet stay.
+        QCOMPARE(cell(0, "TotalSqFt"), QString("12.00"));
+        QCOMPARE(cell(0, "TotalLF"), QString("14.67"));
+
+        box->setCheckState(Qt::Unchecked);
+        QVERIFY(row.useSill());
+
+        // A row loaded without a sill shows the box ticked.
+        openings->openingList()[0]->setUseSill(false);
+        screen->loadValues();
+        QCOMPARE(table()->item(0, column("RemoveSill"))->checkState(), Qt::Checked);
+    }
+
+    void sendingCopiesTheTotalsToTheWall() {
+        ScopedAlertRecorder alerts;
+        wall->setSqftOpenings(5.0);
+        button("sendOpeningDataToWall")->click();
+        QCOMPARE(alerts->alerts.size(), size_t(1));
+        QCOMPARE(alerts->alerts[0].message, std::string("Nothing to send"));
+        QCOMPARE(alerts->alerts[0].informativeText, std::string());
+        QCOMPARE(alerts->alerts[0].buttons, std::vector<std::string>{"OK"});
+        QCOMPARE(wall->sqftOpenings(), 5.0);
+
+        button("addOpening")->click();
+        typeInCell(0, "NumberOfOpenings", "2");
+        typeInCell(0, "Width", "36");
+        typeInCell(0, "Height", "48");
+        table()->item(0, column("RemoveSill"))->setCheckState(Qt::Checked);
+
+        QSignalSpy edited(screen.get(), &ZOLOpeningsEntryViewController::edited);
+        button("sendOpeningDataToWall")->click();
+        QCOMPARE(alerts->alerts.size(), size_t(2));
+        QCOMPARE(alerts->alerts[1].message, std::string("Opening data sent to the Wall page"));
+        QCOMPARE(wall->sqftOpenings(), 24.0);
+        QCOMPARE(wall->linearFeetBuck(), 2 * 11.67);
+        QCOMPARE(edited.count(), 1);
+
+        screen->setWallData(nullptr);
+        button("sendOpeningDataToWall")->click();
+        QCOMPARE(alerts->alerts.size(), size_t(3));
+        QCOMPARE(alerts->alerts[2].message,
+                 std::string("There was an error accessing the Wall page"));
+    }
+
+    void withoutAListTheTableIsEmpty() {
+        screen->setOpeningData(nullptr);
+        screen->loadValues();
+        QCOMPARE(table()->rowCount(), 0);
+        QCOMPARE(total("totalSqFt"), QString("0.00 Sq Ft"));
+        button("addOpening")->click();
+        button("removeOpening")->click();
+        QCOMPARE(table()->rowCount(), 0);
+    }
+
+    void screenshot() {
+        const QByteArray dir = qgetenv("ZOL_SCREENSHOT_DIR");
+        if (dir.isEmpty())
+            QSKIP("set ZOL_SCREENSHOT_DIR to save a picture of the screen");
+        const double sizes[][3] = {{2, 36, 48}, {1, 72, 80}, {3, 24, 36}, {1, 96, 84}};
+        for (const auto& s : sizes) {
+            auto o = std::make_shared<ZOLOpening>();
+            o->setNumberOfOpenings(static_cast<int32_t>(s[0]));
+            o->setOpeningWidth(s[1]);
+            o->setOpeningHeight(s[2]);
+            openings->addOpeningObject(o);
+        }
+        openings->openingList()[1]->setUseSill(false);
+        screen->resize(1340, 600);
+        screen->loadValues();
+        table()->selectRow(1);
+        QVERIFY(screen->grab().save(QString::fromUtf8(dir) + "/openings.png"));
+    }
+};
+
+QTEST_MAIN(ZOLOpeningsEntryViewControllerTest)
+#include "ZOLOpeningsEntryViewControllerTest.moc"
