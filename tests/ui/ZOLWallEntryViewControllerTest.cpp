@@ -324,6 +324,13 @@ private slots:
                                      "Extenders_Info"}));
         QCOMPARE(ZOLInfoPopup::imageNameForIndex(3), std::nullopt);
         QCOMPARE(ZOLInfoPopup::imageNameForIndex(13).value(), std::string("Calora_Stick_Info"));
+
+        // Every button of the screen has its picture among the program's resources.
+        for (int32_t index : {0, 1, 2, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}) {
+            ZOLInfoPopup popup;
+            popup.setImageIndex(index);
+            QVERIFY2(popup.hasImage(), popup.imageName().value_or("(none)").c_str());
+        }
     }
 
     void everyControlIsReachableByTab() {
