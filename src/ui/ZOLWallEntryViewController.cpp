@@ -11,6 +11,7 @@
 #include "ui/ZOLStepper.h"
 
 #include <array>
+#include <tuple>
 
 namespace {
 
