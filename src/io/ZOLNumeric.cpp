@@ -1,25 +1,6 @@
 #include "io/ZOLNumeric.h"
 
-#include <cmath>
 #include <limits>
-
-int32_t ZOLNumeric::toInt(double value) {
-    if (std::isnan(value))
-        return 0;
-    if (value >= 2147483647.0)
-        return std::numeric_limits<int32_t>::max();
-    if (value <= -2147483648.0)
-        return std::numeric_limits<int32_t>::min();
-    return static_cast<int32_t>(value);
-}
-
-int32_t ZOLNumeric::ceilToInt(double value) {
-    return toInt(std::ceil(value));
-}
-
-int32_t ZOLNumeric::floorToInt(double value) {
-    return toInt(std::floor(value));
-}
 
 int32_t ZOLNumeric::wrapAdd(int32_t a, int32_t b) {
     return static_cast<int32_t>(static_cast<uint32_t>(a) + static_cast<uint32_t>(b));
