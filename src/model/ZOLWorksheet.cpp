@@ -1,0 +1,56 @@
+#include "model/ZOLWorksheet.h"
+
+#include "io/ZOLFormat.h"
+#include "model/ZOLConcrete.h"
+#include "model/ZOLManHours.h"
+#include "model/ZOLOpenings.h"
+#include "model/ZOLRebar.h"
+#include "model/ZOLTilt.h"
+#include "model/ZOLWall.h"
+
+ZOLWorksheet::ZOLWorksheet() : ZOLWorksheet(std::string("Worksheet 1")) {}
+
+ZOLWorksheet::ZOLWorksheet(std::string name) : name_(std::move(name)) {
+    concreteData_ = std::make_shared<ZOLConcrete>();
+    manHourData_ = std::make_shared<ZOLManHours>();
+    openingData_ = std::make_shared<ZOLOpenings>();
+    rebarData_ = std::make_shared<ZOLRebar>();
+    tiltData_ = std::make_shared<ZOLTilt>();
+    wallData_ = std::make_shared<ZOLWall>();
+}
+
+void ZOLWorksheet::clear() {
+    name_ = std::string();
+    if (concreteData_)
+        concreteData_->clear();
+    if (openingData_)
+        openingData_->clear();
+    if (rebarData_)
+        rebarData_->clear();
+    if (tiltData_)
+        tiltData_->clear();
+    if (wallData_)
+        wallData_->clear();
+    if (manHourData_)
+        manHourData_->clear();
+}
+
+std::string ZOLWorksheet::getXMLString() const {
+    // The name goes in verbatim between double quotes, as every saved workbook
+    // has it.
+    std::string out = ZOLFormat::format("\t\t<Worksheet Name=\"%@\">\n", name_);
+    if (concreteData_)
+        out += concreteData_->getXMLString();
+    if (openingData_)
+        out += openingData_->getXMLString();
+    if (rebarData_)
+        out += rebarData_->getXMLString();
+    if (tiltData_)
+        out += tiltData_->getXMLString();
+    if (wallData_)
+        out += wallData_->getXMLString();
+    if (manHourData_)
+        out += manHourData_->getXMLString();
+    out += "\t\t</Worksheet>\n";
+    return out;
+}

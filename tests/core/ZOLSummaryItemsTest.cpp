@@ -1,0 +1,291 @@
+#include "model/ZOLConcrete.h"
+#include "model/ZOLManHours.h"
+#include "model/ZOLRebar.h"
+#include "model/ZOLTilt.h"
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+
+#include <gtest/gtest.h>
+
+#include <tuple>
+
+namespace {
+
+using Line = std::shared_ptr<ZOLCustomItem>;
+
+void setPrice(ZOLPricing& pricing, int32_t type, int32_t size, double price) {
+    for (const auto& item : pricing.priceItems())
+        if (item->partType() == type && item->partSize() == size)
+            item->setPrice(price);
+}
+
+void expectLine(const Line& line, const char* type, const std::string& name, const char* unit,
+                double quantity, double cost, bool visible) {
+    ASSERT_TRUE(line);
+    EXPECT_TRUE(line->tiedToWorkbook()) << name;
+    EXPECT_EQ(line->calculatorType(), type) << name;
+    EXPECT_EQ(line->name(), name);
+    EXPECT_EQ(line->unit(), unit) << name;
+    EXPECT_NEAR(line->quantity(), quantity, 1e-9) << name;
+    EXPECT_NEAR(line->cost(), cost, 1e-9) << name;
+    EXPECT_EQ(line->visible(), visible) << name;
+}
+
+std::vector<Line> linesOf(const ZOLWorkbook& workbook, const char* type) {
+    std::vector<Line> out;
+    for (const auto& line : workbook.customItems())
+        if (line->calculatorType() == type)
+            out.push_back(line);
+    return out;
+}
+
+// A house of four worksheets: two 8-inch walls, a 6-inch wall and an empty
+// 10-inch porch, priced from a distributor's list that has no calora-stick
+// item.
+class JobSummaryTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const struct {
+            const char* name;
+            int32_t size;
+            double length, height;
+        } sheets[] = {
+            {"North", 8, 100, 8}, {"South", 6, 50, 8}, {"Garage", 8, 40, 4}, {"Porch", 10, 0, 8}};
+        workbook.setWorksheets({});
+        for (const auto& s : sheets) {
+            auto sheet = std::make_shared<ZOLWorksheet>(s.name);
+            sheet->wallData()->setBlockSize(s.size);
+            sheet->wallData()->setWallLength(s.length);
+            sheet->wallData()->setWallHeight(s.height);
+            workbook.addWorksheetsObject(sheet);
+        }
+        wall(0).setInsideCornerLocations(2);
+        wall(0).setLinearFeetBuck(20.0);
+        wall(0).setUseExtenders(true);
+        wall(0).setCaloraStickLayers(1);
+        wall(1).setAngleLocations(2);
+
+        auto& pricing = *workbook.pricingData();
+        const std::tuple<int32_t, int32_t, double> prices[] = {
+            {0, 6, 21.50},  {4, 6, 28.75},  {0, 8, 23.40},  {2, 8, 31.10},  {11, 8, 4.25},
+            {0, 10, 26.00}, {12, 12, 1.85}, {13, 12, 0.09}, {15, 12, 12.75}};
+        for (const auto& [type, size, price] : prices)
+            setPrice(pricing, type, size, price);
+        auto items = pricing.priceItems();
+        std::erase_if(items, [](const auto& item) { return item->partType() == 14; });
+        pricing.setPriceItems(items);
+    }
+    ZOLWall& wall(std::size_t i) { return *workbook.worksheets()[i]->wallData(); }
+    std::vector<std::shared_ptr<ZOLWall>> walls() const {
+        std::vector<std::shared_ptr<ZOLWall>> out;
+        for (const auto& s : workbook.worksheets())
+            out.push_back(s->wallData());
+        return out;
+    }
+    ZOLWorkbook workbook;
+};
+
+} // namespace
+
+TEST_F(JobSummaryTest, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeInUse) {
+    // The take-off the package is priced from: North 143 straight, 12 corners, 6
+    // buck, 53 extenders, 500 clips, 465 sticks; South 68 straight, 12 angles,
+    // 250 clips; Garage 31 straight, 250 clips.
+    EXPECT_EQ(wall(0).getPartCountWithPartType(0) + wall(2).getPartCountWithPartType(0), 174);
+    EXPECT_EQ(wall(0).getPartCountWithPartType(14), 465);
+    EXPECT_EQ(wall(1).getPartCountWithPartType(4), 12);
+
+    // 6": 68 x 21.50 + 12 x 28.75. 8": 174 x 23.40 + 12 x 31.10 + 6 x 4.25. The
+    // accessories of all walls (sticks at the clips' price) once each for 6", 8"
+    // and the empty 10" porch.
+    const double accessories = 53 * 1.85 + 1000 * 0.09 + 465 * 0.09;
+    const Line line =
+        workbook.getWallSummaryItemForWalls(walls(), workbook.pricingData(), false, true);
+    expectLine(line, "Wall", "Zol Blocks Package", "Package", 1.0,
+               1807.0 + 4470.3 + 3 * accessories, true);
+
+    // Rounded to full bundles wall by wall: 143 and 31 straight become 144
+    // and 36.
+    const double roundedAccessories = 60 * 1.85 + 1000 * 0.09 + 468 * 0.09;
+    EXPECT_NEAR(
+        workbook.getWallSummaryItemForWalls(walls(), workbook.pricingData(), true, true)->cost(),
+        72 * 21.50 + 18 * 28.75 + 180 * 23.40 + 12 * 31.10 + 10 * 4.25 + 3 * roundedAccessories,
+        1e-9);
+
+    // The workbook's sizes decide the passes even for a list of one 6-inch wall.
+    EXPECT_NEAR(
+        workbook.getWallSummaryItemForWalls({walls()[1]}, workbook.pricingData(), false, true)
+            ->cost(),
+        1807.0 + 3 * 250 * 0.09, 1e-9);
+}
+
+TEST_F(JobSummaryTest, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
+    auto pricing = std::make_shared<ZOLPricing>();
+    setPrice(*pricing, 11, 10, 4.80); // the 10" buck
+    auto items = pricing->priceItems();
+    std::erase_if(items, [](const auto& item) { return item->partType() >= 12; });
+    pricing->setPriceItems(items);
+    const Line line = workbook.getWallSummaryItemForWalls(walls(), pricing, false, true);
+    // The 10" buck is the only priced part before an accessory pass (6" and 8" buck cost
+    // nothing), so the accessories are charged once, at its price.
+    EXPECT_NEAR(line->cost(), 0.0 + 4.80 * (53 + 1000 + 465), 1e-9);
+}
+
+TEST_F(JobSummaryTest, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
+    auto user = std::make_shared<ZOLCustomItem>();
+    auto oldWall = std::make_shared<ZOLCustomItem>();
+    oldWall->setTiedToWorkbook(true);
+    oldWall->setCalculatorType(std::string("Wall"));
+    workbook.setCustomItems({user, oldWall});
+    workbook.generateWallItem();
+    ASSERT_EQ(workbook.customItems().size(), 2U);
+    EXPECT_NEAR(workbook.customItems()[0]->cost(), 6967.0, 1e-9);
+    EXPECT_EQ(workbook.customItems()[1], user);
+
+    for (std::size_t i = 0; i < 3; ++i)
+        wall(i).clear();
+    workbook.generateWallItem();
+    expectLine(workbook.customItems()[0], "Wall", "Zol Blocks Package", "Package", 0.0, 0.0, false);
+}
+
+TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden) {
+    auto rebar = [&](std::size_t i) -> ZOLRebar& { return *workbook.worksheets()[i]->rebarData(); };
+    rebar(0).setWallLength(100.0);
+    rebar(0).setHorizontalRowCount1(2);
+    rebar(0).setHorizontalLap1(30); // 220 feet of size 1
+    rebar(0).setVerticalSize(3);
+    rebar(0).setVerticalSpacing(24); // 400 feet of size 3
+    rebar(1).setWallLength(50.0);
+    rebar(1).setHorizontalSize1(3);
+    rebar(1).setHorizontalRowCount1(1); // 50 feet of size 3
+    rebar(2).setMeasurement(1);
+    rebar(2).setWallLength(40.0);
+    rebar(2).setHorizontalRowCount1(2); // 80 feet of size 1
+    rebar(2).setVerticalSize(4);
+    rebar(2).setVerticalSpacing(12); // 320 feet of size 4, past the metric list
+    rebar(3).setWallLength(10.0);
+    rebar(3).setHorizontalSize2(5);
+    rebar(3).setHorizontalRowCount2(1); // 10 feet of size 5, past the imperial list
+
+    std::vector<std::shared_ptr<ZOLRebar>> rebars;
+    for (std::size_t i = 0; i < 4; ++i)
+        rebars.push_back(workbook.worksheets()[i]->rebarData());
+    const auto lines = ZOLWorkbook::getRebarSummaryItemsForRebars(rebars, true);
+    ASSERT_EQ(lines.size(), 6U);
+    expectLine(lines[0], "Rebar", "#5 Rebar", "Linear Feet", 220.0, 0.0, true);
+    expectLine(lines[1], "Rebar", "#7 Rebar", "Linear Feet", 400.0, 0.0, true);
+    expectLine(lines[2], "Rebar", "#7 Rebar", "Linear Feet", 50.0, 0.0, true);
+    expectLine(lines[3], "Rebar", " Rebar", "Linear Feet", 10.0, 0.0, true);
+    expectLine(lines[4], "Rebar", "15M Rebar", "Linear Feet", 80.0, 0.0, true);
+    expectLine(lines[5], "Rebar", " Rebar", "Linear Feet", 320.0, 0.0, true);
+
+    // Merged by name, then zeroed and hidden; a line of a size no longer used
+    // stays as it is.
+    auto stale = std::make_shared<ZOLCustomItem>();
+    stale->setName(std::string("#8 Rebar"));
+    stale->setCalculatorType(std::string("Rebar"));
+    stale->setTiedToWorkbook(true);
+    stale->setQuantity(75.0);
+    workbook.setCustomItems({stale});
+    workbook.generateRebarItems();
+    const auto merged = linesOf(workbook, "Rebar");
+    ASSERT_EQ(merged.size(), 5U);
+    EXPECT_EQ(stale->quantity(), 75.0);
+    for (std::size_t i = 1; i < merged.size(); ++i) {
+        EXPECT_EQ(merged[i]->quantity(), 0.0);
+        EXPECT_FALSE(merged[i]->visible());
+    }
+}
+
+TEST_F(JobSummaryTest, ConcreteLinesPerUnitSystemAndPour) {
+    for (std::size_t i : {0U, 2U}) {
+        auto& footing = *workbook.worksheets()[i]->concreteData();
+        footing.setMeasurement(i == 2 ? 1 : 0);
+        footing.setFootingLength(100.0);
+        footing.setFootingWidth(20);
+        footing.setFootingDepth(10);
+    }
+    auto& south = *workbook.worksheets()[1]->concreteData();
+    south.setWallLength(100.0);
+    south.setWallThickness(6);
+    south.setWallHeight(8.0);
+    std::vector<std::shared_ptr<ZOLConcrete>> pours;
+    for (const auto& s : workbook.worksheets())
+        pours.push_back(s->concreteData());
+    const auto lines = ZOLWorkbook::getConcreteSummaryItemsWithConcretes(pours, true);
+    ASSERT_EQ(lines.size(), 3U);
+    const double footingYards = 240000.0 * 2.1433470508e-05;
+    expectLine(lines[0], "Concrete", "Footing Concrete", "Y", footingYards, 0.0, true);
+    expectLine(lines[1], "Concrete", "Wall Concrete", "Y", 691200.0 * 2.1433470508e-05, 0.0, true);
+    expectLine(lines[2], "Concrete", "Footing Concrete", "M", footingYards * 0.76455485798, 0.0,
+               true);
+
+    workbook.generateConcreteItems(); // the metric footing merges into the
+                                      // imperial one
+    ASSERT_EQ(linesOf(workbook, "Concrete").size(), 2U);
+    EXPECT_EQ(linesOf(workbook, "Concrete")[0]->quantity(), 0.0);
+}
+
+TEST_F(JobSummaryTest, TiltAndManHourLinesAreUpdatedNotDuplicated) {
+    workbook.worksheets()[0]->tiltData()->setWallLength(100.0);
+    workbook.worksheets()[0]->tiltData()->setWallHeight(10.0); // 190 panels, 570 inserts
+    auto& a = *workbook.worksheets()[0]->manHourData();
+    auto& b = *workbook.worksheets()[1]->manHourData();
+    a.setSquareFeetOfWall(2400.0);
+    a.setLaborCost(30.0);
+    b.setSquareFeetOfWall(800.0);
+    b.setLaborCost(45.0);
+    const double ha = a.getHoursToComplete();
+    const double hb = b.getHoursToComplete();
+
+    workbook.generateCustomItems();
+    workbook.generateCustomItems();
+    ASSERT_EQ(linesOf(workbook, "Tilt").size(), 1U);
+    ASSERT_EQ(linesOf(workbook, "ManHours").size(), 1U);
+    const Line tilt = linesOf(workbook, "Tilt")[0];
+    expectLine(tilt, "Tilt", "Quarto Tilt Parts", "Parts", 760.0, 0.0, true);
+    expectLine(linesOf(workbook, "ManHours")[0], "ManHours", "Total Man Hours", "Hours", ha + hb,
+               (30.0 * ha + 45.0 * hb) / (ha + hb), true);
+
+    // A price typed on the job summary survives; quantity and visibility follow
+    // the job.
+    tilt->setCost(1.15);
+    workbook.worksheets()[0]->tiltData()->setWallLength(0.0);
+    workbook.generateCustomItems();
+    expectLine(tilt, "Tilt", "Quarto Tilt Parts", "Parts", 0.0, 1.15, false);
+}
+
+TEST(ZOLSummaryItemsTest, LabourRateAveragesWithoutDividingByNothing) {
+    auto record = [](double sqft, double cost) {
+        auto m = std::make_shared<ZOLManHours>();
+        m->setSquareFeetOfWall(sqft);
+        m->setLaborCost(cost);
+        return m;
+    };
+    EXPECT_EQ(
+        ZOLWorkbook::getManHourSummaryItemWithManHours({record(2400, 0), record(800, 0)}, true)
+            ->cost(),
+        0.0);
+    const Line idle =
+        ZOLWorkbook::getManHourSummaryItemWithManHours({record(0, 30), record(0, 45)}, true);
+    expectLine(idle, "ManHours", "Total Man Hours", "Hours", 0.0, 0.0, false);
+    // Hours that cancel out below nothing: the plain average of the rates.
+    const auto small = record(500, 10);
+    const auto negative = record(-5000, 20);
+    ASSERT_LT(small->getHoursToComplete() + negative->getHoursToComplete(), 0.0);
+    EXPECT_DOUBLE_EQ(
+        ZOLWorkbook::getManHourSummaryItemWithManHours({small, negative}, true)->cost(), 15.0);
+}
+
+TEST_F(JobSummaryTest, AbsurdEntriesNeitherOverflowNorStopTheSummary) {
+    wall(0).setWallLength(1e300); // counts saturate; their sums wrap instead of overflowing
+    wall(2).setWallLength(1e300);
+    workbook.worksheets()[0]->rebarData()->setWallLength(100.0);
+    workbook.worksheets()[0]->rebarData()->setVerticalSpacing(6); // infinitely many feet
+    workbook.worksheets()[1]->manHourData()->setSquareFeetOfWall(1e308);
+    workbook.worksheets()[1]->manHourData()->setLaborCost(1e308);
+    workbook.generateCustomItems();
+    EXPECT_EQ(workbook.customItems()[0]->calculatorType(), "Wall");
+    EXPECT_EQ(linesOf(workbook, "Rebar").size(), 1U);
+    EXPECT_EQ(linesOf(workbook, "ManHours").size(), 1U);
+}

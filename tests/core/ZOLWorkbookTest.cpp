@@ -1,0 +1,146 @@
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWall.h"
+#include "platform/ZOLClock.h"
+#include "support/AlertRecorder.h"
+#include "support/ScopedTimeZone.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+
+namespace {
+
+constexpr int64_t kMay2 = 1399041000; // 2014-05-02 09:30:00 in Chicago
+
+class ScopedClock {
+public:
+    explicit ScopedClock(int64_t seconds) {
+        ZOLClock::setSource([seconds] { return seconds; });
+    }
+    ~ScopedClock() { ZOLClock::setSource({}); }
+    ScopedClock(const ScopedClock&) = delete;
+    ScopedClock& operator=(const ScopedClock&) = delete;
+};
+
+std::vector<std::string> names(const ZOLWorkbook& workbook) {
+    std::vector<std::string> out;
+    for (const auto& sheet : workbook.worksheets())
+        out.push_back(sheet->name());
+    return out;
+}
+
+} // namespace
+
+TEST(ZOLWorkbookTest, NewWorkbookHasOneWorksheetAndClearedOneHasNone) {
+    ScopedClock clock(kMay2);
+    ZOLWorkbook workbook;
+    EXPECT_EQ(names(workbook), std::vector<std::string>{"Worksheet 1"});
+    EXPECT_EQ(workbook.projectDate(), kMay2);
+    workbook.pricingData()->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
+    workbook.setSummarizeTilt(false);
+    workbook.clear();
+    EXPECT_TRUE(workbook.worksheets().empty());
+    EXPECT_EQ(workbook.pricingData()->priceItems().size(), 44U);
+    EXPECT_TRUE(workbook.summarizeTilt());
+
+    // Clearing a worksheet keeps its records and clears them.
+    ZOLWorksheet sheet("Garage");
+    const auto wall = sheet.wallData();
+    wall->setWallLength(120.0);
+    sheet.clear();
+    EXPECT_EQ(sheet.name(), "");
+    EXPECT_EQ(sheet.wallData(), wall);
+    EXPECT_EQ(wall->wallLength(), 0.0);
+}
+
+TEST(ZOLWorkbookTest, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
+    ScopedAlertRecorder alerts;
+    ZOLWorkbook workbook;
+    workbook.addWorksheets({std::make_shared<ZOLWorksheet>("Worksheet 1"),
+                            std::make_shared<ZOLWorksheet>("worksheet 1"),
+                            std::make_shared<ZOLWorksheet>("Garage"),
+                            std::make_shared<ZOLWorksheet>("Garage")});
+    EXPECT_EQ(names(workbook), (std::vector<std::string>{"Worksheet 1", "worksheet 1", "Garage"}));
+    ASSERT_EQ(alerts->alerts.size(), 2U);
+    EXPECT_EQ(alerts->alerts[0].message, "A worksheet with that name already exists.");
+    EXPECT_EQ(alerts->alerts[0].informativeText, "");
+    EXPECT_EQ(alerts->alerts[0].buttons, std::vector<std::string>{"OK"});
+
+    workbook.changeWorksheetNameWithOldName("Garage", "Garage");
+    workbook.changeWorksheetNameWithOldName("Garage", "worksheet 1");
+    EXPECT_EQ(alerts->alerts.size(), 4U);
+    workbook.changeWorksheetNameWithOldName("garage",
+                                            "Barn"); // no such worksheet
+    workbook.changeWorksheetNameWithOldName("Garage", "Garage ");
+    EXPECT_EQ(names(workbook), (std::vector<std::string>{"Worksheet 1", "worksheet 1", "Garage "}));
+    EXPECT_EQ(alerts->alerts.size(), 4U);
+}
+
+TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
+    ZOLWorkbook workbook;
+    workbook.worksheets()[0]->wallData()->setWallLength(100.0);
+    workbook.worksheets()[0]->wallData()->setSqftOpenings(50.0);
+    auto garage = std::make_shared<ZOLWorksheet>("Garage");
+    garage->wallData()->setWallLength(50.0);
+    garage->wallData()->setUseHalfBlock(true); // 8.667 feet of wall
+    workbook.addWorksheetsObject(garage);
+    EXPECT_NEAR(workbook.getTotalGrossSquareFeet(), 800.0 + 433.35, 1e-9);
+    EXPECT_NEAR(workbook.getTotalNetSquareFeet(), 750.0 + 433.35, 1e-9);
+
+    workbook.generateCustomItems();
+    const auto lines = workbook.customItems();
+    workbook.setWorksheets({}); // every worksheet deleted
+    workbook.generateCustomItems();
+    EXPECT_EQ(workbook.customItems(), lines);
+    EXPECT_EQ(lines[0]->quantity(), 1.0);
+    EXPECT_EQ(workbook.getTotalGrossSquareFeet(), 0.0);
+    EXPECT_NE(workbook.getXMLString().find("\t<Worksheets>\n\t</Worksheets>\n\t<PricingData>"),
+              std::string::npos);
+    EXPECT_NE(workbook.getCustomItemTemplateXMLString().find("<Name>Zol Blocks Package</Name>"),
+              std::string::npos);
+}
+
+TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFile) {
+    ScopedTimeZone zone(ScopedTimeZone::kCentral);
+    ScopedClock clock(kMay2);
+    std::ifstream in(ZOL_TEST_DATA "/new-workbook.zol", std::ios::binary);
+    std::stringstream saved;
+    saved << in.rdbuf();
+    EXPECT_EQ(ZOLWorkbook().getXMLString(), saved.str());
+}
+
+TEST(ZOLWorkbookTest, ProjectTextsAreWrittenVerbatimAndTheTemplateWrapsEveryLine) {
+    ZOLWorkbook workbook;
+    workbook.setProjectName(std::string("Smith & Sons <Lakeside>"));
+    workbook.setClientName(std::nullopt);
+    workbook.setProjectDate(std::nullopt);
+    workbook.setRoundToFullBundles(true);
+    workbook.setSummarizeRebar(false);
+    const std::string xml = workbook.getXMLString();
+    const std::string tail = "\t</PricingData>\n"
+                             "\t<ProjectName>Smith & Sons <Lakeside></ProjectName>\n"
+                             "\t<ClientName>(null)</ClientName>\n"
+                             "\t<ProjectDate>(null)</ProjectDate>\n"
+                             "\t<ProjectVersion></ProjectVersion>\n"
+                             "\t<DistributorName></DistributorName>\n"
+                             "\t<RoundToFullBundles>true</RoundToFullBundles>\n"
+                             "\t<SummarizeWall>true</SummarizeWall>\n"
+                             "\t<SummarizeRebar>false</SummarizeRebar>\n"
+                             "\t<SummarizeConcrete>true</SummarizeConcrete>\n"
+                             "\t<SummarizeTilt>true</SummarizeTilt>\n"
+                             "\t<SummarizeManHours>true</SummarizeManHours>\n"
+                             "</Workbook>";
+    ASSERT_GT(xml.size(), tail.size());
+    EXPECT_EQ(xml.substr(xml.size() - tail.size()), tail);
+
+    auto line = std::make_shared<ZOLCustomItem>();
+    line->setName(std::string("Pump truck & operator"));
+    workbook.setCustomItems({line, line});
+    const std::string header =
+        "<?xml version=\"1.0\"?>\n"
+        "<CustomItems xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+        "xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\">\n\t<Items>\n";
+    EXPECT_EQ(workbook.getCustomItemTemplateXMLString(),
+              header + line->getXMLString() + line->getXMLString() + "\t</Items>\n</CustomItems>");
+}
