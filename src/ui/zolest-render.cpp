@@ -12,10 +12,14 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <fcntl.h>
 #include <iostream>
 #include <iterator>
 #include <string>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -55,6 +59,14 @@ int main(int argc, char** argv) {
     if (files.size() != 2)
         return usage();
 
+    // With the PDF going to stdout, anything else that would print there (the engine, its
+    // helper processes) goes to stderr instead, so that the PDF arrives clean.
+    int pdfOut = -1;
+    if (files[1] == "-") {
+        pdfOut = ::fcntl(STDOUT_FILENO, F_DUPFD_CLOEXEC, 0);
+        ::dup2(STDERR_FILENO, STDOUT_FILENO);
+    }
+
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qInstallMessageHandler(quietMessages);
@@ -85,10 +97,22 @@ int main(int argc, char** argv) {
         std::cerr << "zolest-render: " << error.toStdString() << "\n";
         return 1;
     }
-    if (files[1] == "-") {
-        std::cout.write(pdf.constData(), pdf.size());
-        std::cout.flush();
-        return std::cout ? 0 : 1;
+    if (pdfOut >= 0) {
+        qsizetype done = 0;
+        while (done < pdf.size()) {
+            const ssize_t n = ::write(pdfOut, pdf.constData() + done,
+                                      static_cast<std::size_t>(pdf.size() - done));
+            if (n < 0 && errno == EINTR)
+                continue;
+            if (n <= 0) {
+                std::cerr << "zolest-render: cannot write the PDF: " << std::strerror(errno)
+                          << "\n";
+                return 1;
+            }
+            done += n;
+        }
+        ::close(pdfOut);
+        return 0;
     }
     QSaveFile out(QString::fromStdString(files[1]));
     if (!out.open(QIODevice::WriteOnly) || out.write(pdf) != pdf.size() || !out.commit()) {

@@ -1,10 +1,14 @@
 // The report renderer: report text in, PDF sheets out, with the report's user texts kept from
 // running script or reaching the network.
 #include "ui/ZOLReportRenderer.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
+#include "report/ZOLPrintSettings.h"
 
 #include <QApplication>
 #include <QEventLoop>
+#include <QFile>
 #include <QPrinter>
 #include <QProcess>
 #include <QTcpServer>
@@ -80,20 +84,30 @@ private slots:
         Listener listener;
         QVERIFY(listener.listening());
         const std::string remote = listener.base();
-        // What a workbook from someone else could carry in its notes or names.
-        const std::string notes = "<script>document.title='script ran'; new Image().src='" +
-                                  remote + "/script';</script><img src=" + remote +
-                                  "/img.png><link rel=\"stylesheet\" href=\"" + remote +
-                                  "/style.css\"><iframe src=\"" + remote +
-                                  "/frame\"></iframe><meta http-equiv=\"refresh\" content=\"0; "
-                                  "url=" +
-                                  remote + "/refresh\"><span style=\"background:url(" + remote +
-                                  "/bg.png)\">x</span><img src=\"file:///etc/hostname\">";
-        const std::string html = ZOLPrintData::getHeaderHTML() +
-                                 "<div class=\"page\">\n<div class=\"content notes\">\n<div><p>" +
-                                 notes + "</p></div>\n</div>\n</div>\n" +
-                                 ZOLPrintData::getFooterHTML();
+        // What a workbook from someone else could carry in its names and notes.
+        auto workbook = std::make_shared<ZOLWorkbook>();
+        workbook->setProjectName("<script>document.title='script ran'; new Image().src='" + remote +
+                                 "/script';</script>Lakeview");
+        workbook->worksheets()[0]->setName("<img src=" + remote + "/img.png>North");
+        workbook->setClientName("<link rel=\"stylesheet\" href=\"" + remote + "/style.css\">");
+        const std::string notes =
+            "<iframe src=\"" + remote +
+            "/frame\"></iframe><meta http-equiv=\"refresh\" "
+            "content=\"0; url=" +
+            remote + "/refresh\"><span style=\"background:url(" + remote +
+            "/bg.png)\">x</span><img src=\"file:///etc/hostname\"><object data=\"" + remote +
+            "/object\"></object>";
+        workbook->setNotes(notes);
+        ZOLPrintData::Settings settings;
+        for (const char* key : ZOLPrintSettings::keys())
+            settings[key] = true;
+        const std::string html = ZOLPrintData::getHTMLWithWorkbook(workbook, settings);
+        // The report prints them as typed...
+        QVERIFY(html.find("<div><p>" + notes + "</p></div>") != std::string::npos);
+        QVERIFY(html.find("Worksheet: <img src=" + remote + "/img.png>North</p>") !=
+                std::string::npos);
 
+        // ...and rendering runs none of it and reaches nothing.
         ZOLReportRenderer renderer(resources());
         QString error;
         const QByteArray pdf = renderer.renderPdfAndWait(html, &error);

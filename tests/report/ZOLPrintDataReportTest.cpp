@@ -1,0 +1,403 @@
+// The whole report: the page order the settings give, the openings pagination, the workbook
+// pages, and a golden copy of a full two-worksheet report pinned byte for byte.
+#include "calc/ZOLWallData.h"
+#include "model/ZOLConcrete.h"
+#include "model/ZOLCustomItem.h"
+#include "model/ZOLManHours.h"
+#include "model/ZOLOpening.h"
+#include "model/ZOLOpenings.h"
+#include "model/ZOLPriceItem.h"
+#include "model/ZOLPricing.h"
+#include "model/ZOLRebar.h"
+#include "model/ZOLTilt.h"
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
+#include "report/ZOLPrintData.h"
+#include "report/ZOLPrintSettings.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <fstream>
+#include <regex>
+#include <sstream>
+
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+namespace {
+
+// 2 May 2014 at noon UTC: the same calendar day in every time zone a CI machine may use.
+constexpr int64_t kProjectDate = 1399032000;
+
+class ZOLPrintDataReport : public ::testing::Test {
+protected:
+    void SetUp() override {
+        previousResources_ = ZOLPrintData::resourcesDirectory();
+        // A fixed folder, so that the golden files do not depend on where the sources are.
+        ZOLPrintData::setResourcesDirectory("/opt/zol-estimator/resources");
+    }
+    void TearDown() override { ZOLPrintData::setResourcesDirectory(previousResources_); }
+
+    static std::shared_ptr<ZOLWorkbook> workbookOf(const std::vector<std::string>& names) {
+        auto workbook = std::make_shared<ZOLWorkbook>();
+        ZOLWorkbook::Worksheets worksheets;
+        for (const auto& name : names)
+            worksheets.push_back(std::make_shared<ZOLWorksheet>(name));
+        workbook->setWorksheets(worksheets);
+        workbook->setProjectName("Lakeview House");
+        workbook->setProjectVersion("2");
+        workbook->setClientName("Dana Ortiz");
+        workbook->setDistributorName("North Supply");
+        workbook->setProjectDate(kProjectDate);
+        return workbook;
+    }
+
+    static ZOLPrintData::Settings only(std::initializer_list<const char*> keys) {
+        ZOLPrintData::Settings settings;
+        for (const char* key : keys)
+            settings[key] = true;
+        return settings;
+    }
+
+    static ZOLPrintData::Settings everything() {
+        ZOLPrintData::Settings settings;
+        for (const char* key : ZOLPrintSettings::keys())
+            settings[key] = true;
+        return settings;
+    }
+
+    // The page class of every page, in order ("wall", "openings", "wall-summary", ...).
+    static std::vector<std::string> pageClasses(const std::string& html) {
+        static const std::regex page("<div class=\"page\">\n<div class=\"content ([a-z-]+)\">");
+        std::vector<std::string> classes;
+        for (std::sregex_iterator it(html.begin(), html.end(), page), end; it != end; ++it)
+            classes.push_back((*it)[1]);
+        return classes;
+    }
+
+    static void setOpenings(const std::shared_ptr<ZOLWorksheet>& worksheet, int count) {
+        std::vector<std::shared_ptr<ZOLOpening>> list;
+        for (int i = 1; i <= count; ++i) {
+            auto opening = std::make_shared<ZOLOpening>();
+            opening->setNumberOfOpenings(100 + i); // tells the openings apart on the page
+            opening->setOpeningWidth(30 + i);
+            opening->setOpeningHeight(48);
+            opening->setUseSill(i % 2 == 1);
+            list.push_back(opening);
+        }
+        worksheet->openingData()->setOpeningList(list);
+    }
+
+    // The numbers of the openings listed on a page, in order.
+    static std::vector<int> listedOpenings(const std::string& page) {
+        static const std::regex opening("Number of Openings: (\\d+)");
+        std::vector<int> numbers;
+        for (std::sregex_iterator it(page.begin(), page.end(), opening), end; it != end; ++it)
+            numbers.push_back(std::stoi((*it)[1]) - 100);
+        return numbers;
+    }
+
+    static std::vector<std::string> pages(const std::string& html) {
+        std::vector<std::string> result;
+        const std::string start = "<div class=\"page\">";
+        for (auto at = html.find(start); at != std::string::npos;) {
+            const auto next = html.find(start, at + 1);
+            result.push_back(html.substr(at, next == std::string::npos ? next : next - at));
+            at = next;
+        }
+        return result;
+    }
+
+private:
+    std::string previousResources_;
+};
+
+std::string readFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::stringstream text;
+    text << in.rdbuf();
+    return text.str();
+}
+
+// Compares with a golden file of tests/data/report; ZOL_UPDATE_GOLDEN=1 rewrites it instead.
+void expectGolden(const std::string& name, const std::string& html) {
+    const std::string path = std::string(ZOL_TEST_DATA) + "/report/" + name;
+    if (std::getenv("ZOL_UPDATE_GOLDEN")) {
+        std::ofstream(path, std::ios::binary) << html;
+        return;
+    }
+    const std::string golden = readFile(path);
+    ASSERT_FALSE(golden.empty()) << path;
+    EXPECT_EQ(html, golden) << "differs from " << path;
+}
+
+} // namespace
+
+TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocument) {
+    auto workbook = workbookOf({"North", "South"});
+    const std::string blank = ZOLPrintData::getHeaderHTML() + "</body></html>";
+    EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {}), blank);
+    ZOLPrintData::Settings allFalse = everything();
+    for (auto& [key, on] : allFalse)
+        on = false;
+    EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, allFalse), blank);
+    EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, 1, allFalse), blank);
+    // Settings the report does not know change nothing.
+    EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {{"PrintEverything", true}}), blank);
+}
+
+TEST_F(ZOLPrintDataReport, HeaderNamesTheBackgroundInTheResourcesFolder) {
+    EXPECT_THAT(ZOLPrintData::getHeaderHTML(),
+                HasSubstr("div.page { width:21.6cm; height:27.9cm; "
+                          "background:url('/opt/zol-estimator/resources/report/"
+                          "PrintingBackground.svg'); background-repeat:no-repeat; "
+                          "background-size:21.6cm 27.9cm; }\n"));
+    ZOLPrintData::setResourcesDirectory("/Applications/Zol Estimator/resources/");
+    EXPECT_THAT(ZOLPrintData::getHeaderHTML(),
+                HasSubstr("url('/Applications/Zol Estimator/resources/report/"
+                          "PrintingBackground.svg')"));
+}
+
+TEST_F(ZOLPrintDataReport, ProjectInformationFillsMissingTextsAndNamesTheWorksheet) {
+    EXPECT_EQ(ZOLPrintData::getProjectInfoHTML(nullptr, "Lakeview", std::nullopt, std::nullopt,
+                                               std::nullopt, kProjectDate),
+              "<div>\n<p>Project: Lakeview\tVersion: 1.0<br />\nClient: \tDistributor: <br />\n"
+              "Date: 05/02/2014</p>\n</div>");
+    auto worksheet = std::make_shared<ZOLWorksheet>("Garage <east>");
+    EXPECT_EQ(ZOLPrintData::getProjectInfoHTML(worksheet, std::nullopt, "3b", "Dana", "North",
+                                               std::nullopt),
+              "<div>\n<p>Project: \tVersion: 3b<br />\nClient: Dana\tDistributor: North<br />\n"
+              "Date: <br />\nWorksheet: Garage <east></p>\n</div>");
+}
+
+TEST_F(ZOLPrintDataReport, PagesComeInTheFixedOrder) {
+    auto workbook = workbookOf({"A", "B", "C"});
+    EXPECT_THAT(
+        pageClasses(ZOLPrintData::getHTMLWithWorkbook(
+            workbook, only({ZOLPrintSettings::kPrintWall, ZOLPrintSettings::kPrintSummary}))),
+        ElementsAre("wall", "wall", "wall", "wall-summary"));
+
+    const std::string all = ZOLPrintData::getHTMLWithWorkbook(workbookOf({"A", "B"}), everything());
+    EXPECT_THAT(pageClasses(all),
+                ElementsAre("concrete", "man-hours", "openings", "rebar", "tilt", "wall",
+                            "concrete", "man-hours", "openings", "rebar", "tilt", "wall",
+                            "wall-summary", "job-summary", "notes"));
+    EXPECT_THAT(all, EndsWith("</div>\n</div>\n</body></html>"));
+    // Estimate pages name their worksheet; the workbook pages do not.
+    for (const std::string& page : pages(all)) {
+        const bool workbookPage = page.find("content wall-summary") != std::string::npos ||
+                                  page.find("content job-summary") != std::string::npos ||
+                                  page.find("content notes") != std::string::npos;
+        EXPECT_EQ(page.find("Worksheet: ") == std::string::npos, workbookPage) << page;
+    }
+}
+
+TEST_F(ZOLPrintDataReport, OneWorksheetReportPicksTheIndexAndKeepsTheWholeWorkbookSummary) {
+    auto workbook = workbookOf({"North", "South", "Garage"});
+    workbook->worksheets()[2]->wallData()->setWallLength(40);
+    workbook->worksheets()[2]->wallData()->setWallHeight(8);
+    const auto settings = only({ZOLPrintSettings::kPrintWall, ZOLPrintSettings::kPrintSummary});
+
+    std::string html = ZOLPrintData::getHTMLWithWorkbook(workbook, -1, settings);
+    EXPECT_THAT(pageClasses(html), ElementsAre("wall", "wall-summary"));
+    EXPECT_THAT(html, HasSubstr("Worksheet: North</p>"));
+    // The summary counts the garage's blocks although only the first worksheet prints.
+    EXPECT_THAT(html, HasSubstr("<td>8\" Straight Block</td>"));
+
+    html = ZOLPrintData::getHTMLWithWorkbook(workbook, 1, settings);
+    EXPECT_THAT(html, HasSubstr("Worksheet: South</p>"));
+    EXPECT_THAT(html, Not(HasSubstr("Worksheet: North")));
+
+    // Past the last worksheet (or with none left) only the workbook pages print.
+    EXPECT_THAT(pageClasses(ZOLPrintData::getHTMLWithWorkbook(workbook, 3, settings)),
+                ElementsAre("wall-summary"));
+    workbook->setWorksheets({});
+    EXPECT_THAT(pageClasses(ZOLPrintData::getHTMLWithWorkbook(workbook, 0, settings)),
+                ElementsAre("wall-summary"));
+}
+
+TEST_F(ZOLPrintDataReport, OnlyTheLastOpeningsPageListsOpenings) {
+    auto workbook = workbookOf({"North"});
+    const auto worksheet = workbook->worksheets()[0];
+    const auto settings = only({ZOLPrintSettings::kPrintOpenings});
+
+    setOpenings(worksheet, 8);
+    auto printed = pages(ZOLPrintData::getHTMLWithWorkbook(workbook, settings));
+    ASSERT_EQ(printed.size(), 1u);
+    EXPECT_THAT(printed[0], HasSubstr("<h1>Openings</h1>"));
+    EXPECT_THAT(listedOpenings(printed[0]), ElementsAre(1, 2, 3, 4, 5, 6, 7, 8));
+
+    setOpenings(worksheet, 9);
+    printed = pages(ZOLPrintData::getHTMLWithWorkbook(workbook, settings));
+    ASSERT_EQ(printed.size(), 2u);
+    EXPECT_THAT(printed[0], HasSubstr("<h1>Openings - Page 1 of 2</h1>"));
+    EXPECT_THAT(printed[0], HasSubstr("<table>\n</table>\n<p class=\"footer\">"));
+    EXPECT_THAT(printed[1], HasSubstr("<h1>Openings - Page 2 of 2</h1>"));
+    EXPECT_THAT(listedOpenings(printed[1]), ElementsAre(9));
+
+    setOpenings(worksheet, 16);
+    printed = pages(ZOLPrintData::getHTMLWithWorkbook(workbook, settings));
+    ASSERT_EQ(printed.size(), 2u);
+    EXPECT_TRUE(listedOpenings(printed[0]).empty());
+    EXPECT_THAT(listedOpenings(printed[1]), ElementsAre(9, 10, 11, 12, 13, 14, 15, 16));
+
+    setOpenings(worksheet, 17);
+    printed = pages(ZOLPrintData::getHTMLWithWorkbook(workbook, 0, settings));
+    ASSERT_EQ(printed.size(), 3u);
+    EXPECT_THAT(printed[2], HasSubstr("<h1>Openings - Page 3 of 3</h1>"));
+    EXPECT_THAT(listedOpenings(printed[2]), ElementsAre(17));
+    // The worksheet's own list is left as it was.
+    EXPECT_EQ(worksheet->openingData()->openingList().size(), 17u);
+}
+
+TEST_F(ZOLPrintDataReport, WorkbookSummaryGroupsBlocksBySizeAndCountsClipsInBundles) {
+    auto workbook = workbookOf({"A", "B", "C"});
+    // No wall with a length counts no blocks: the table stays empty, without sign or totals.
+    workbook->setRoundToFullBundles(true);
+    std::string page = ZOLPrintData::getSummaryHTML(workbook);
+    EXPECT_THAT(page, EndsWith("<th>Approx. Weight</th>\n</tr>\n</table>\n"
+                               "<br /><p>* Quantities rounded to full bundles</p>\n"
+                               "</div>\n</div>\n"));
+    EXPECT_THAT(page, Not(HasSubstr("Job Site Sign")));
+
+    workbook->setRoundToFullBundles(false);
+    const auto& sheets = workbook->worksheets();
+    for (const auto& sheet : sheets) {
+        sheet->wallData()->setWallLength(60);
+        sheet->wallData()->setWallHeight(8);
+        sheet->wallData()->setBlockSize(8);
+    }
+    sheets[1]->wallData()->setBlockSize(6);
+    page = ZOLPrintData::getSummaryHTML(workbook);
+    const auto six = page.find("<td>6\" Straight Block</td>");
+    const auto eight = page.find("<td>8\" Straight Block</td>");
+    ASSERT_NE(six, std::string::npos);
+    ASSERT_NE(eight, std::string::npos);
+    EXPECT_LT(six, eight);
+    const int32_t eightInch =
+        sheets[0]->wallData()->getStraightBlocks() + sheets[2]->wallData()->getStraightBlocks();
+    EXPECT_THAT(
+        page, HasSubstr("<td>8\" Straight Block</td>\n<td>" + std::to_string(eightInch) + "</td>"));
+    int32_t clipBundles = 0;
+    for (const auto& sheet : sheets)
+        clipBundles += sheet->wallData()->getTotalBundlesWithPartType(13);
+    ASSERT_GT(clipBundles, 0);
+    EXPECT_THAT(page, HasSubstr("<td>" + *ZOLWallData::getPartNameWithBlockType(13) +
+                                "</td>\n<td>" + std::to_string(clipBundles) + "</td>"));
+    EXPECT_THAT(page, HasSubstr("<tr>\n<td>Zol Blocks Job Site Sign</td>\n<td>1</td>\n"
+                                "<td>$0.00</td>\n<td>$0.00</td>\n<td>$0.00</td>\n"
+                                "<td>0.00 lbs</td>\n</tr>\n<tr></tr>\n<tr><td>Totals</td>\n"));
+    EXPECT_THAT(page, EndsWith("</tr>\n</table>\n</div>\n</div>\n"));
+}
+
+TEST_F(ZOLPrintDataReport, JobSummaryTruncatesTheQuantityTotalAtEveryLine) {
+    auto workbook = workbookOf({"A"});
+    auto line = [](const char* name, double quantity, double cost, bool visible) {
+        auto item = std::make_shared<ZOLCustomItem>();
+        item->setName(name);
+        item->setUnit("Each");
+        item->setQuantity(quantity);
+        item->setCost(cost);
+        item->setVisible(visible);
+        return item;
+    };
+    workbook->setCustomItems({line("Anchor bolts", 1.5, 2.25, true), line("Hidden", 7, 100, false),
+                              line("Sill plate <2x6>", 1.5, 3.3333, true)});
+    const std::string page = ZOLPrintData::getJobSummaryHTML(workbook);
+    EXPECT_THAT(page, HasSubstr("<tr>\n<td>Anchor bolts</td>\n<td>1.50</td>\n<td>Each</td>\n"
+                                "<td>$2.25</td>\n<td>$3.38</td>\n</tr>\n"));
+    EXPECT_THAT(page, HasSubstr("<td>Sill plate <2x6></td>"));
+    EXPECT_THAT(page, Not(HasSubstr("Hidden")));
+    // 1 after the first line, int(1 + 1.5) = 2 after the second; the cost keeps its decimals
+    // (3.375 + 4.99995).
+    EXPECT_THAT(page, EndsWith("<tr></tr>\n<tr><td>Totals</td>\n<td>2</td>\n<td> </td>\n"
+                               "<td> </td>\n<td>$8.37</td>\n</tr>\n</table>\n</div>\n</div>\n"));
+    EXPECT_THAT(page, HasSubstr("<th>Total Cost</th>\n<tr>\n")); // the head row stays open
+}
+
+TEST_F(ZOLPrintDataReport, NotesGoInAsTyped) {
+    auto workbook = workbookOf({"A"});
+    workbook->setNotes(
+        "Pour Tuesday.\n<script>alert('x')</script> <img src=http://example.com/a> & more");
+    EXPECT_THAT(ZOLPrintData::getProjectNotesHTML(workbook),
+                EndsWith("<div><p>Pour Tuesday.\n<script>alert('x')</script> "
+                         "<img src=http://example.com/a> & more</p></div>\n</div>\n</div>\n"));
+}
+
+TEST_F(ZOLPrintDataReport, FullReportMatchesTheGoldenCopy) {
+    auto workbook = workbookOf({"North Wall", "Garage"});
+    const auto north = workbook->worksheets()[0];
+    auto wall = north->wallData();
+    wall->setWallLength(124.5);
+    wall->setWallHeight(9.334);
+    wall->setBlockSize(8);
+    wall->setInsideCornerLocations(2);
+    wall->setOutsideCornerLocations(6);
+    wall->setAngleLocations(2);
+    wall->setTBlockLocations(1);
+    wall->setLinearFeetCorbel(20);
+    wall->setLinearFeetRadius(12);
+    wall->setRadius(15);
+    wall->setSqftOpenings(96);
+    wall->setUseExtenders(true);
+    wall->setCaloraStickLayers(2);
+    setOpenings(north, 3);
+    auto rebar = north->rebarData();
+    rebar->setWallLength(124.5);
+    rebar->setWallHeight(9.334);
+    rebar->setHorizontalRowCount1(3);
+    rebar->setHorizontalRowCount2(2);
+    rebar->setHorizontalSize2(0);
+    rebar->setHorizontalLap1(30);
+    rebar->setHorizontalLap2(24);
+    rebar->setVerticalSpacing(16);
+    rebar->setDowelSpacing(32);
+    auto concrete = north->concreteData();
+    concrete->setFootingWidth(20);
+    concrete->setFootingDepth(10);
+    concrete->setFootingLength(124.5);
+    concrete->setWallThickness(8);
+    concrete->setWallHeight(9.334);
+    concrete->setWallLength(124.5);
+    concrete->setPileCount(6);
+    concrete->setPileDiameter(12);
+    concrete->setPileDepth(8);
+    auto tilt = north->tiltData();
+    tilt->setWallHeight(9.334);
+    tilt->setWallLength(124.5);
+    auto manHours = north->manHourData();
+    manHours->setSquareFeetOfWall(1162);
+    manHours->setCornersAndTs(9);
+    manHours->setLaborCost(32.5);
+
+    const auto garage = workbook->worksheets()[1];
+    garage->wallData()->setWallLength(60);
+    garage->wallData()->setWallHeight(8);
+    garage->wallData()->setBlockSize(6);
+    setOpenings(garage, 10);
+    garage->concreteData()->setMeasurement(1);
+    garage->rebarData()->setMeasurement(1);
+
+    for (const auto& item : workbook->pricingData()->priceItems())
+        item->setPrice(2.5 + item->partType() * 0.75 + item->partSize() * 0.1);
+    workbook->setNotes("Deliver to the north side of the lot.\nCall before pouring.");
+    auto extra = std::make_shared<ZOLCustomItem>();
+    extra->setName("Window bucks (site built)");
+    extra->setUnit("Each");
+    extra->setQuantity(4);
+    extra->setCost(18.75);
+    extra->setVisible(true);
+    workbook->setCustomItems({extra});
+
+    expectGolden("two-worksheets.html", ZOLPrintData::getHTMLWithWorkbook(workbook, everything()));
+    expectGolden("one-worksheet.html",
+                 ZOLPrintData::getHTMLWithWorkbook(
+                     workbook, 1,
+                     only({ZOLPrintSettings::kPrintOpenings, ZOLPrintSettings::kPrintWall,
+                           ZOLPrintSettings::kPrintJobSummary})));
+}
