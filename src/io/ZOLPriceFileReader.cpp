@@ -6,16 +6,18 @@
 #include "model/ZOLPricing.h"
 #include "platform/ZOLAlerts.h"
 
-ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPricing& pricing) {
+ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPricing& pricing,
+                                                const ZOLReadLimits& limits) {
     if (!ZOLReadCheck::acceptsData(bytes)) {
         ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
         return ZOLReadStatus::Refused;
     }
-    ZOLPriceFileReader reader(pricing);
+    ZOLPriceFileReader reader(pricing, limits);
     return ZOLSaxParser::parse(bytes, reader) ? ZOLReadStatus::Read : ZOLReadStatus::ParseError;
 }
 
-ZOLPriceFileReader::ZOLPriceFileReader(ZOLPricing& pricing) : pricing_(pricing) {}
+ZOLPriceFileReader::ZOLPriceFileReader(ZOLPricing& pricing, const ZOLReadLimits& limits)
+    : pricing_(pricing), limits_(limits) {}
 ZOLPriceFileReader::~ZOLPriceFileReader() = default;
 
 void ZOLPriceFileReader::startElement(std::string_view name, const Attributes&) {
@@ -47,7 +49,7 @@ void ZOLPriceFileReader::ignorableWhitespace(std::string_view chunk) {
 void ZOLPriceFileReader::endElement(std::string_view name) {
     if (name == "PriceItem") {
         if (item_) {
-            if (pricing_.priceItems().size() >= kMaxPriceItems) {
+            if (pricing_.priceItems().size() >= static_cast<std::size_t>(limits_.priceItems)) {
                 abortParse();
                 return;
             }

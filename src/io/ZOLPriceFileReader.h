@@ -1,4 +1,5 @@
 #pragma once
+#include "io/ZOLReadLimits.h"
 #include "io/ZOLReadStatus.h"
 #include "io/ZOLSaxHandler.h"
 
@@ -18,14 +19,12 @@ class ZOLPricing;
 // stay in the list.
 class ZOLPriceFileReader : public ZOLSaxHandler {
 public:
-    // A price list longer than this is not a price file; it is reported like a parse error.
-    static constexpr int32_t kMaxPriceItems = 10000;
-
     // Opens a price file's bytes as the price list window does: bytes that fail the open check
     // (ZOLReadCheck) give the wrong-format alert, then the XML is read into `pricing`.
-    static ZOLReadStatus readPriceData(std::string_view bytes, ZOLPricing& pricing);
+    static ZOLReadStatus readPriceData(std::string_view bytes, ZOLPricing& pricing,
+                                       const ZOLReadLimits& limits = {});
 
-    explicit ZOLPriceFileReader(ZOLPricing& pricing);
+    explicit ZOLPriceFileReader(ZOLPricing& pricing, const ZOLReadLimits& limits = {});
     ~ZOLPriceFileReader() override;
 
     void startElement(std::string_view name, const Attributes& attributes) override;
@@ -37,6 +36,7 @@ public:
 
 private:
     ZOLPricing& pricing_;
+    ZOLReadLimits limits_;
     std::shared_ptr<ZOLPriceItem> item_;
     std::optional<std::string> text_;
     int32_t property_ = 0;

@@ -98,3 +98,20 @@ TEST(ZOLPriceFileReader, BytesThatAreNotTextGetTheWrongFormatAlert) {
     EXPECT_EQ(messages(*alerts), (std::vector<std::string>{kWrongFormat, kWrongFormat}));
     EXPECT_EQ(pricing.getFullXMLString(), before);
 }
+
+TEST(ZOLPriceFileReader, APriceListLongerThanAnyRealOneIsAnOpenError) {
+    ScopedAlertRecorder alerts;
+    ZOLReadLimits limits;
+    limits.priceItems = 2;
+    ZOLPricing pricing;
+    EXPECT_EQ(ZOLPriceFileReader::readPriceData(
+                  "<Pricing><PriceItems><PriceItem/><PriceItem/></PriceItems></Pricing>", pricing,
+                  limits),
+              ZOLReadStatus::Read);
+    EXPECT_EQ(ZOLPriceFileReader::readPriceData("<Pricing><PriceItems><PriceItem/><PriceItem/>"
+                                                "<PriceItem/></PriceItems></Pricing>",
+                                                pricing, limits),
+              ZOLReadStatus::ParseError);
+    EXPECT_EQ(pricing.priceItems().size(), 2u);
+    EXPECT_EQ(messages(*alerts), std::vector<std::string>{kOpenError});
+}

@@ -1,0 +1,185 @@
+// Files from someone else: whatever they hold, opening them ends in the open alert or in a
+// clean read, and the workbook read can be computed and saved without faults (the sanitizer
+// build turns any undefined behaviour here into a failure).
+#include "io/ZOLPriceFileReader.h"
+#include "io/ZOLTemplateReader.h"
+#include "io/ZOLWorkbookReader.h"
+#include "model/ZOLPricing.h"
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
+#include "support/AlertRecorder.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+
+namespace {
+
+// Every leaf element of a worksheet with the same text.
+std::string worksheetWith(const std::string& value) {
+    std::string xml = "<Workbook><Worksheets><Worksheet Name=\"" + value + "\">";
+    const std::vector<std::pair<std::string, std::vector<std::string>>> records = {
+        {"ConcreteData",
+         {"Measurement", "FootingWidth", "FootingLength", "FootingDepth", "PileDepth",
+          "PileDiameter", "PileCount", "SlabLength", "SlabWidth", "SlabDepth", "WallLength",
+          "WallThickness", "WallHeight", "RemoveSqFtOpenings", "SqFtOpenings"}},
+        {"RebarData",
+         {"Measurement", "WallLength", "HorizontalSize1", "HorizontalRowCount1", "HorizontalLap1",
+          "HorizontalSize2", "HorizontalRowCount2", "HorizontalLap2", "WallHeight", "VerticalSize",
+          "VerticalSpacing", "DowelSize", "DowelSpacing", "DowelLength"}},
+        {"TiltData", {"WallHeight", "WallLength"}},
+        {"WallData",
+         {"BlockSize",
+          "WallHeight",
+          "WallLength",
+          "InsideCornerLocations",
+          "OutsideCornerLocations",
+          "AngleLocations",
+          "TBlockLocations",
+          "LinearFeetCorbel",
+          "LinearFeetCurb",
+          "CurbCornerLocations",
+          "LinearFeetTapered",
+          "LinearFeetRadius",
+          "Radius",
+          "SquareFeetOpenings",
+          "LinearFeetBuck",
+          "StraightBlockAdded",
+          "CornerBlockAdded",
+          "CaloraStickLayers",
+          "UseCutBlock",
+          "UseHalfBlock",
+          "UseExtenders",
+          "UsePravex",
+          "PelmoBrickHeight",
+          "PelmoBrickLength",
+          "PelmoPerBlock"}},
+        {"ManHourData",
+         {"SquareFeetOfWall", "CornersAndTs", "SquareFeetOfOpenings", "LinealFeetCorbelCurbTapered",
+          "WallHeight", "RebarComplexity", "CrewExperience", "SiteConditions", "OtherTurns",
+          "LaborCost", "CrewSize"}},
+    };
+    for (const auto& [record, fields] : records) {
+        xml += "<" + record + ">";
+        for (const auto& field : fields)
+            xml += "<" + field + ">" + value + "</" + field + ">";
+        xml += "</" + record + ">";
+    }
+    xml += "<OpeningData><OpeningList><Opening><RowNumber>" + value +
+           "</RowNumber><NumberOfOpenings>" + value + "</NumberOfOpenings><OpeningWidth>" + value +
+           "</OpeningWidth><OpeningHeight>" + value + "</OpeningHeight><UseSill>" + value +
+           "</UseSill></Opening></OpeningList></OpeningData>";
+    xml += "</Worksheet></Worksheets><PricingData><PriceItems><PriceItem><PartSize>" + value +
+           "</PartSize><PartType>" + value + "</PartType><Price>" + value +
+           "</Price></PriceItem></PriceItems></PricingData></Workbook>";
+    return xml;
+}
+
+// What the application does with an opened workbook: show the job summary, total it, save.
+void useWorkbook(ZOLWorkbook& workbook) {
+    workbook.generateCustomItems();
+    (void)workbook.getTotalGrossSquareFeet();
+    (void)workbook.getTotalNetSquareFeet();
+    EXPECT_FALSE(workbook.getXMLString().empty());
+    (void)workbook.getCustomItemTemplateXMLString();
+}
+
+} // namespace
+
+TEST(ZOLHostileFiles, ExtremeNumbersReadCleanlyAndCanBeComputedAndSaved) {
+    ScopedAlertRecorder alerts;
+    for (const std::string value : {"1e308",
+                                    "-1e308",
+                                    "1e400",
+                                    "-1e400",
+                                    "99999999999999999999",
+                                    "-99999999999999999999",
+                                    "2147483647",
+                                    "-2147483648",
+                                    "2147483648",
+                                    "nan",
+                                    "NaN",
+                                    "inf",
+                                    "-inf",
+                                    "0x7fffffff",
+                                    "4.9e-324",
+                                    "-0",
+                                    "",
+                                    " ",
+                                    "Metric",
+                                    "Twelve",
+                                    "Intense",
+                                    "true",
+                                    "(null)"}) {
+        auto result = ZOLWorkbookReader::readWorkbookData(worksheetWith(value));
+        ASSERT_EQ(result.status, ZOLReadStatus::Read) << value;
+        useWorkbook(*result.workbook);
+    }
+    // Numbers the reader does not take (hex, nan, inf) read as 0; overflow saturates.
+    auto wall = [](const std::string& value) {
+        return ZOLWorkbookReader::readWorkbookData(worksheetWith(value))
+            .workbook->worksheets()[0]
+            ->wallData();
+    };
+    EXPECT_DOUBLE_EQ(wall("nan")->wallLength(), 0.0);
+    EXPECT_DOUBLE_EQ(wall("0x7fffffff")->wallLength(), 0.0);
+    EXPECT_EQ(wall("99999999999999999999")->radius(), 2147483647);
+    EXPECT_TRUE(std::isinf(wall("1e400")->wallLength()));
+    EXPECT_TRUE(alerts->alerts.empty());
+}
+
+TEST(ZOLHostileFiles, DamagedFilesEndInTheOpenAlertNeverInACrash) {
+    ScopedAlertRecorder alerts;
+    ZOLWorkbook source;
+    source.worksheets()[0]->wallData()->setWallLength(88.0);
+    const std::string good = source.getXMLString();
+    int failures = 0;
+    // Every truncation of a real file.
+    for (std::size_t cut = 1; cut < good.size(); cut += 29) {
+        const auto result = ZOLWorkbookReader::readWorkbookData(good.substr(0, cut));
+        if (result.ok())
+            useWorkbook(*result.workbook);
+        else
+            ++failures;
+    }
+    EXPECT_GT(failures, 0);
+    // Flipped bytes through the file.
+    for (std::size_t at = 0; at < good.size(); at += 31) {
+        std::string damaged = good;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0xA5);
+        const auto result = ZOLWorkbookReader::readWorkbookData(damaged);
+        if (result.ok())
+            useWorkbook(*result.workbook);
+    }
+    for (const auto& alert : alerts->alerts)
+        EXPECT_TRUE(alert.message == "There was an error opening the file." ||
+                    alert.message == "A worksheet with that name already exists.")
+            << alert.message;
+}
+
+TEST(ZOLHostileFiles, PriceAndTemplateFilesWithExtremeValuesReadCleanly) {
+    ScopedAlertRecorder alerts;
+    for (const std::string value : {"1e400", "nan", "-99999999999", "(null)", "", "Sixteen"}) {
+        ZOLPricing pricing;
+        const std::string price = "<Pricing><PriceItems><PriceItem><PartSize>" + value +
+                                  "</PartSize><PartType>" + value + "</PartType><Price>" + value +
+                                  "</Price></PriceItem></PriceItems></Pricing>";
+        ASSERT_EQ(ZOLPriceFileReader::readPriceData(price, pricing), ZOLReadStatus::Read);
+        for (int32_t type = 0; type <= 16; ++type)
+            (void)pricing.getPriceForItemType(type, 8);
+        (void)pricing.priceItems()[0]->getPartText();
+        (void)pricing.getFullXMLString();
+
+        ZOLWorkbook workbook;
+        const std::string line = "<CustomItems><Items><CustomItem><Name>" + value +
+                                 "</Name><Quantity>" + value + "</Quantity><Cost>" + value +
+                                 "</Cost><TiedToWorkbook>" + value +
+                                 "</TiedToWorkbook><CalculatorType>Wall</CalculatorType>"
+                                 "</CustomItem></Items></CustomItems>";
+        ASSERT_EQ(ZOLTemplateReader::readTemplateData(line, workbook), ZOLReadStatus::Read);
+        useWorkbook(workbook);
+    }
+    EXPECT_TRUE(alerts->alerts.empty());
+}
