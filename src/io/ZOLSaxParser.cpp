@@ -25,14 +25,16 @@ std::string_view view(const xmlChar* text, int length) {
     return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)};
 }
 
-std::string qualifiedName(const xmlChar* localname, const xmlChar* prefix) {
-    std::string name;
-    if (prefix) {
-        name = reinterpret_cast<const char*>(prefix);
-        name += ':';
-    }
-    name += reinterpret_cast<const char*>(localname);
-    return name;
+// The element's name as the file writes it: "prefix:name", or the name alone. The common case,
+// no prefix, needs no copy.
+std::string_view qualifiedName(const xmlChar* localname, const xmlChar* prefix,
+                               std::string& storage) {
+    if (!prefix)
+        return reinterpret_cast<const char*>(localname);
+    storage = reinterpret_cast<const char*>(prefix);
+    storage += ':';
+    storage += reinterpret_cast<const char*>(localname);
+    return storage;
 }
 
 // Without entity substitution libxml2 hands an attribute's "&" on as the character reference
@@ -75,17 +77,21 @@ void onStartElement(void* ctx, const xmlChar* localname, const xmlChar* prefix, 
     dispatch(ctx, [&](ZOLSaxHandler& handler) {
         ZOLSaxHandler::Attributes list;
         list.reserve(static_cast<std::size_t>(attributeCount));
+        std::string storage;
         for (int i = 0; i < attributeCount; ++i) {
             const xmlChar** a = attributes + 5 * i;
-            list.emplace_back(qualifiedName(a[0], a[1]), attributeValue(a[3], a[4]));
+            list.emplace_back(std::string(qualifiedName(a[0], a[1], storage)),
+                              attributeValue(a[3], a[4]));
         }
-        handler.startElement(qualifiedName(localname, prefix), list);
+        handler.startElement(qualifiedName(localname, prefix, storage), list);
     });
 }
 
 void onEndElement(void* ctx, const xmlChar* localname, const xmlChar* prefix, const xmlChar*) {
-    dispatch(ctx,
-             [&](ZOLSaxHandler& handler) { handler.endElement(qualifiedName(localname, prefix)); });
+    dispatch(ctx, [&](ZOLSaxHandler& handler) {
+        std::string storage;
+        handler.endElement(qualifiedName(localname, prefix, storage));
+    });
 }
 
 void onCharacters(void* ctx, const xmlChar* text, int length) {
@@ -141,28 +147,29 @@ bool isBlank(char c) {
 } // namespace
 
 bool ZOLSaxParser::withinMarkupLimits(std::string_view bytes) {
+    int declarations = 0;
+    for (auto at = bytes.find("xmlns"); at != std::string_view::npos;
+         at = bytes.find("xmlns", at + 5))
+        if (++declarations > kMaxNamespaceDeclarations)
+            return false;
     // An attribute is always a name, "=", optional blanks and a quote, and an attribute value
     // cannot hold "<"; so the attributes of a start tag are at most the "=" followed by a
-    // quote between its "<" and the next one.
-    static constexpr std::string_view xmlns = "xmlns";
+    // quote between its "<" and the next one. The scan jumps from "=" to "=".
+    const char* const begin = bytes.data();
+    const char* const end = begin + bytes.size();
     int attributes = 0;
-    int declarations = 0;
-    const std::size_t n = bytes.size();
-    for (std::size_t i = 0; i < n; ++i) {
-        const char c = bytes[i];
-        if (c == '<') {
+    const char* previous = begin;
+    for (auto* eq = static_cast<const char*>(std::memchr(begin, '=', bytes.size())); eq;
+         eq = static_cast<const char*>(
+             std::memchr(eq + 1, '=', static_cast<std::size_t>(end - eq - 1)))) {
+        if (std::memchr(previous, '<', static_cast<std::size_t>(eq - previous)))
             attributes = 0;
-        } else if (c == '=') {
-            std::size_t j = i + 1;
-            while (j < n && isBlank(bytes[j]))
-                ++j;
-            if (j < n && (bytes[j] == '"' || bytes[j] == '\'') &&
-                ++attributes > kMaxAttributesPerTag)
-                return false;
-        } else if (c == 'x' && bytes.compare(i, xmlns.size(), xmlns) == 0) {
-            if (++declarations > kMaxNamespaceDeclarations)
-                return false;
-        }
+        previous = eq;
+        const char* next = eq + 1;
+        while (next < end && isBlank(*next))
+            ++next;
+        if (next < end && (*next == '"' || *next == '\'') && ++attributes > kMaxAttributesPerTag)
+            return false;
     }
     return true;
 }

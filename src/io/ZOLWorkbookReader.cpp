@@ -18,7 +18,9 @@
 #include "platform/ZOLAlerts.h"
 #include "platform/ZOLClock.h"
 
-#include <unordered_map>
+#include <array>
+#include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -30,85 +32,160 @@ constexpr int32_t kRoundToFullBundles = 5;
 
 constexpr int32_t kDefaultPriceItems = 44;
 
-// The leaf elements with a single code. "Measurement", "WallLength" and "WallHeight" appear in
-// several records and are resolved by the record being read.
-const std::unordered_map<std::string_view, int32_t>& leafCodes() {
-    static const std::unordered_map<std::string_view, int32_t> codes = {
-        {"ProjectName", 0},
-        {"ClientName", 1},
-        {"ProjectDate", 2},
-        {"ProjectVersion", 3},
-        {"DistributorName", 4},
-        {"RoundToFullBundles", 5},
-        {"SummarizeWall", 6},
-        {"SummarizeRebar", 7},
-        {"SummarizeConcrete", 8},
-        {"SummarizeTilt", 9},
-        {"SummarizeManHours", 10},
-        {"FootingWidth", 12},
-        {"FootingLength", 13},
-        {"FootingDepth", 14},
-        {"PileDepth", 15},
-        {"PileDiameter", 16},
-        {"PileCount", 17},
-        {"SlabLength", 18},
-        {"SlabWidth", 19},
-        {"SlabDepth", 20},
-        {"WallThickness", 22},
-        {"RowNumber", 24},
-        {"NumberOfOpenings", 25},
-        {"OpeningWidth", 26},
-        {"OpeningHeight", 27},
-        {"UseSill", 28},
-        {"HorizontalSize1", 31},
-        {"HorizontalRowCount1", 32},
-        {"HorizontalLap1", 33},
-        {"HorizontalSize2", 34},
-        {"HorizontalRowCount2", 35},
-        {"HorizontalLap2", 36},
-        {"VerticalSize", 38},
-        {"VerticalSpacing", 39},
-        {"DowelSize", 40},
-        {"DowelSpacing", 41},
-        {"DowelLength", 42},
-        {"BlockSize", 45},
-        {"InsideCornerLocations", 48},
-        {"OutsideCornerLocations", 49},
-        {"AngleLocations", 50},
-        {"TBlockLocations", 51},
-        {"LinearFeetCorbel", 52},
-        {"LinearFeetCurb", 53},
-        {"CurbCornerLocations", 54},
-        {"LinearFeetTapered", 55},
-        {"LinearFeetRadius", 56},
-        {"Radius", 57},
-        {"SquareFeetOpenings", 58},
-        {"LinearFeetBuck", 59},
-        {"StraightBlockAdded", 60},
-        {"CornerBlockAdded", 61},
-        {"CaloraStickLayers", 62},
-        {"UseCutBlock", 63},
-        {"UseHalfBlock", 64},
-        {"UseExtenders", 65},
-        {"UsePravex", 66},
-        {"PelmoBrickHeight", 67},
-        {"PelmoBrickLength", 68},
-        {"PelmoPerBlock", 69},
-        {"SquareFeetOfWall", 70},
-        {"CornersAndTs", 71},
-        {"SquareFeetOfOpenings", 72},
-        {"LinealFeetCorbelCurbTapered", 73},
-        {"RebarComplexity", 75},
-        {"CrewExperience", 76},
-        {"SiteConditions", 77},
-        {"OtherTurns", 78},
-        {"LaborCost", 79},
-        {"CrewSize", 80},
-        {"PartSize", 81},
-        {"PartType", 82},
-        {"Price", 83},
+// What an element name means to the reader: a structural element, one of the three leaf
+// names that several records share, a leaf element with its one property code, or nothing.
+enum class Tag {
+    Other,
+    Leaf,
+    Workbook,
+    Worksheet,
+    ConcreteData,
+    OpeningData,
+    Opening,
+    RebarData,
+    TiltData,
+    WallData,
+    ManHourData,
+    PriceItem,
+    PricingData,
+    Measurement,
+    WallLength,
+    WallHeight,
+};
+
+struct Element {
+    Tag tag = Tag::Other;
+    int32_t code = 0;
+};
+
+// Every start and end tag is looked up here, so the table is a small open-addressing hash on
+// the name's length and three of its letters rather than a general-purpose map.
+class ElementTable {
+public:
+    ElementTable(std::initializer_list<std::pair<std::string_view, Element>> entries) {
+        for (const auto& [name, element] : entries) {
+            std::size_t i = slot(name);
+            while (!slots_[i].first.empty())
+                i = (i + 1) & kMask;
+            slots_[i] = {name, element};
+        }
+    }
+    Element find(std::string_view name) const {
+        if (name.empty())
+            return {};
+        for (std::size_t i = slot(name);; i = (i + 1) & kMask) {
+            if (slots_[i].first.empty())
+                return {};
+            if (slots_[i].first == name)
+                return slots_[i].second;
+        }
+    }
+
+private:
+    static constexpr std::size_t kSlots = 512;
+    static constexpr std::size_t kMask = kSlots - 1;
+    static std::size_t slot(std::string_view name) {
+        const auto at = [&name](std::size_t i) { return static_cast<unsigned char>(name[i]); };
+        std::size_t h = name.size();
+        h = h * 131 + at(0);
+        h = h * 131 + at(name.size() / 2);
+        h = h * 131 + at(name.size() - 1);
+        return h & kMask;
+    }
+    std::array<std::pair<std::string_view, Element>, kSlots> slots_{};
+};
+
+Element lookUp(std::string_view name) {
+    static const ElementTable table = {
+        {"Workbook", {Tag::Workbook}},
+        {"Worksheet", {Tag::Worksheet}},
+        {"ConcreteData", {Tag::ConcreteData}},
+        {"OpeningData", {Tag::OpeningData}},
+        {"Opening", {Tag::Opening}},
+        {"RebarData", {Tag::RebarData}},
+        {"TiltData", {Tag::TiltData}},
+        {"WallData", {Tag::WallData}},
+        {"ManHourData", {Tag::ManHourData}},
+        {"PriceItem", {Tag::PriceItem}},
+        {"PricingData", {Tag::PricingData}},
+        {"Measurement", {Tag::Measurement}},
+        {"WallLength", {Tag::WallLength}},
+        {"WallHeight", {Tag::WallHeight}},
+        {"ProjectName", {Tag::Leaf, 0}},
+        {"ClientName", {Tag::Leaf, 1}},
+        {"ProjectDate", {Tag::Leaf, 2}},
+        {"ProjectVersion", {Tag::Leaf, 3}},
+        {"DistributorName", {Tag::Leaf, 4}},
+        {"RoundToFullBundles", {Tag::Leaf, 5}},
+        {"SummarizeWall", {Tag::Leaf, 6}},
+        {"SummarizeRebar", {Tag::Leaf, 7}},
+        {"SummarizeConcrete", {Tag::Leaf, 8}},
+        {"SummarizeTilt", {Tag::Leaf, 9}},
+        {"SummarizeManHours", {Tag::Leaf, 10}},
+        {"FootingWidth", {Tag::Leaf, 12}},
+        {"FootingLength", {Tag::Leaf, 13}},
+        {"FootingDepth", {Tag::Leaf, 14}},
+        {"PileDepth", {Tag::Leaf, 15}},
+        {"PileDiameter", {Tag::Leaf, 16}},
+        {"PileCount", {Tag::Leaf, 17}},
+        {"SlabLength", {Tag::Leaf, 18}},
+        {"SlabWidth", {Tag::Leaf, 19}},
+        {"SlabDepth", {Tag::Leaf, 20}},
+        {"WallThickness", {Tag::Leaf, 22}},
+        {"RowNumber", {Tag::Leaf, 24}},
+        {"NumberOfOpenings", {Tag::Leaf, 25}},
+        {"OpeningWidth", {Tag::Leaf, 26}},
+        {"OpeningHeight", {Tag::Leaf, 27}},
+        {"UseSill", {Tag::Leaf, 28}},
+        {"HorizontalSize1", {Tag::Leaf, 31}},
+        {"HorizontalRowCount1", {Tag::Leaf, 32}},
+        {"HorizontalLap1", {Tag::Leaf, 33}},
+        {"HorizontalSize2", {Tag::Leaf, 34}},
+        {"HorizontalRowCount2", {Tag::Leaf, 35}},
+        {"HorizontalLap2", {Tag::Leaf, 36}},
+        {"VerticalSize", {Tag::Leaf, 38}},
+        {"VerticalSpacing", {Tag::Leaf, 39}},
+        {"DowelSize", {Tag::Leaf, 40}},
+        {"DowelSpacing", {Tag::Leaf, 41}},
+        {"DowelLength", {Tag::Leaf, 42}},
+        {"BlockSize", {Tag::Leaf, 45}},
+        {"InsideCornerLocations", {Tag::Leaf, 48}},
+        {"OutsideCornerLocations", {Tag::Leaf, 49}},
+        {"AngleLocations", {Tag::Leaf, 50}},
+        {"TBlockLocations", {Tag::Leaf, 51}},
+        {"LinearFeetCorbel", {Tag::Leaf, 52}},
+        {"LinearFeetCurb", {Tag::Leaf, 53}},
+        {"CurbCornerLocations", {Tag::Leaf, 54}},
+        {"LinearFeetTapered", {Tag::Leaf, 55}},
+        {"LinearFeetRadius", {Tag::Leaf, 56}},
+        {"Radius", {Tag::Leaf, 57}},
+        {"SquareFeetOpenings", {Tag::Leaf, 58}},
+        {"LinearFeetBuck", {Tag::Leaf, 59}},
+        {"StraightBlockAdded", {Tag::Leaf, 60}},
+        {"CornerBlockAdded", {Tag::Leaf, 61}},
+        {"CaloraStickLayers", {Tag::Leaf, 62}},
+        {"UseCutBlock", {Tag::Leaf, 63}},
+        {"UseHalfBlock", {Tag::Leaf, 64}},
+        {"UseExtenders", {Tag::Leaf, 65}},
+        {"UsePravex", {Tag::Leaf, 66}},
+        {"PelmoBrickHeight", {Tag::Leaf, 67}},
+        {"PelmoBrickLength", {Tag::Leaf, 68}},
+        {"PelmoPerBlock", {Tag::Leaf, 69}},
+        {"SquareFeetOfWall", {Tag::Leaf, 70}},
+        {"CornersAndTs", {Tag::Leaf, 71}},
+        {"SquareFeetOfOpenings", {Tag::Leaf, 72}},
+        {"LinealFeetCorbelCurbTapered", {Tag::Leaf, 73}},
+        {"RebarComplexity", {Tag::Leaf, 75}},
+        {"CrewExperience", {Tag::Leaf, 76}},
+        {"SiteConditions", {Tag::Leaf, 77}},
+        {"OtherTurns", {Tag::Leaf, 78}},
+        {"LaborCost", {Tag::Leaf, 79}},
+        {"CrewSize", {Tag::Leaf, 80}},
+        {"PartSize", {Tag::Leaf, 81}},
+        {"PartType", {Tag::Leaf, 82}},
+        {"Price", {Tag::Leaf, 83}},
     };
-    return codes;
+    return table.find(name);
 }
 
 // Stores a finished record in the worksheet being read and empties its slot. Without a
@@ -156,54 +233,70 @@ bool ZOLWorkbookReader::countObjects(int32_t count) {
 }
 
 void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& attributes) {
-    if (name == "Workbook") {
+    const Element element = lookUp(name);
+    // The end tag of an element is the one for the latest open element: it needs no look-up.
+    open_.push_back(static_cast<int32_t>(element.tag));
+    switch (element.tag) {
+    case Tag::Workbook:
         // The workbook comes with a default price list.
-        if (!countObjects(kDefaultPriceItems + 1))
-            return;
-        workbook_ = std::make_shared<ZOLWorkbook>();
-        workbook_->clear();
-    } else if (name == "Worksheet") {
+        if (countObjects(kDefaultPriceItems + 1)) {
+            workbook_ = std::make_shared<ZOLWorkbook>();
+            workbook_->clear();
+        }
+        break;
+    case Tag::Worksheet:
         // A worksheet comes with its six records.
         if (++worksheetsSeen_ > limits_.worksheets || !countObjects(7)) {
             abortParse();
-            return;
+            break;
         }
         worksheet_ = std::make_shared<ZOLWorksheet>();
         if (auto worksheetName = attribute(attributes, "Name"))
             worksheet_->setName(*worksheetName);
-    } else if (name == "ConcreteData") {
+        break;
+    case Tag::ConcreteData:
         if (countObjects(1))
             concrete_ = std::make_shared<ZOLConcrete>();
-    } else if (name == "OpeningData") {
+        break;
+    case Tag::OpeningData:
         if (countObjects(1))
             openings_ = std::make_shared<ZOLOpenings>();
-    } else if (name == "Opening") {
+        break;
+    case Tag::Opening:
         if (countObjects(1))
             opening_ = std::make_shared<ZOLOpening>();
-    } else if (name == "RebarData") {
+        break;
+    case Tag::RebarData:
         if (countObjects(1))
             rebar_ = std::make_shared<ZOLRebar>();
-    } else if (name == "TiltData") {
+        break;
+    case Tag::TiltData:
         if (countObjects(1))
             tilt_ = std::make_shared<ZOLTilt>();
-    } else if (name == "WallData") {
+        break;
+    case Tag::WallData:
         if (countObjects(1))
             wall_ = std::make_shared<ZOLWall>();
-    } else if (name == "ManHourData") {
+        break;
+    case Tag::ManHourData:
         if (countObjects(1))
             manHours_ = std::make_shared<ZOLManHours>();
-    } else if (name == "PriceItem") {
+        break;
+    case Tag::PriceItem:
         if (countObjects(1))
             priceItem_ = std::make_shared<ZOLPriceItem>();
-    } else if (name == "PricingData") {
+        break;
+    case Tag::PricingData:
         if (workbook_ && countObjects(kDefaultPriceItems + 1))
             workbook_->setPricingData(std::make_shared<ZOLPricing>());
-    } else if (name == "Measurement") {
+        break;
+    case Tag::Measurement:
         if (concrete_)
             property_ = 11;
         else if (rebar_)
             property_ = 29;
-    } else if (name == "WallLength") {
+        break;
+    case Tag::WallLength:
         if (concrete_)
             property_ = 21;
         else if (rebar_)
@@ -212,7 +305,8 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
             property_ = 44;
         else if (wall_)
             property_ = 47;
-    } else if (name == "WallHeight") {
+        break;
+    case Tag::WallHeight:
         if (concrete_)
             property_ = 23;
         else if (rebar_)
@@ -223,10 +317,12 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
             property_ = 46;
         else if (manHours_)
             property_ = 74;
-    } else {
-        const auto& codes = leafCodes();
-        if (auto found = codes.find(name); found != codes.end())
-            property_ = found->second;
+        break;
+    case Tag::Leaf:
+        property_ = element.code;
+        break;
+    case Tag::Other:
+        break;
     }
 }
 
@@ -245,19 +341,33 @@ void ZOLWorkbookReader::ignorableWhitespace(std::string_view chunk) {
 }
 
 void ZOLWorkbookReader::endElement(std::string_view name) {
-    if (name == "ConcreteData") {
+    Tag tag = Tag::Other;
+    if (open_.empty()) {
+        tag = lookUp(name).tag;
+    } else {
+        tag = static_cast<Tag>(open_.back());
+        open_.pop_back();
+    }
+    switch (tag) {
+    case Tag::ConcreteData:
         finishRecord(concrete_, worksheet_, &ZOLWorksheet::setConcreteData);
-    } else if (name == "OpeningData") {
+        break;
+    case Tag::OpeningData:
         finishRecord(openings_, worksheet_, &ZOLWorksheet::setOpeningData);
-    } else if (name == "RebarData") {
+        break;
+    case Tag::RebarData:
         finishRecord(rebar_, worksheet_, &ZOLWorksheet::setRebarData);
-    } else if (name == "TiltData") {
+        break;
+    case Tag::TiltData:
         finishRecord(tilt_, worksheet_, &ZOLWorksheet::setTiltData);
-    } else if (name == "WallData") {
+        break;
+    case Tag::WallData:
         finishRecord(wall_, worksheet_, &ZOLWorksheet::setWallData);
-    } else if (name == "ManHourData") {
+        break;
+    case Tag::ManHourData:
         finishRecord(manHours_, worksheet_, &ZOLWorksheet::setManHourData);
-    } else if (name == "Opening") {
+        break;
+    case Tag::Opening:
         if (opening_ && openings_) {
             if (openings_->openingList().size() >=
                 static_cast<std::size_t>(limits_.openingsPerWorksheet)) {
@@ -267,12 +377,14 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
             openings_->addOpeningObject(opening_);
         }
         opening_.reset();
-    } else if (name == "Worksheet") {
+        break;
+    case Tag::Worksheet:
         // A repeated name raises the workbook's own alert and the worksheet is left out.
         if (worksheet_ && workbook_)
             workbook_->addWorksheetsObject(worksheet_);
         worksheet_.reset();
-    } else if (name == "PriceItem") {
+        break;
+    case Tag::PriceItem:
         if (priceItem_ && workbook_ && workbook_->pricingData()) {
             if (workbook_->pricingData()->priceItems().size() >=
                 static_cast<std::size_t>(limits_.priceItems)) {
@@ -282,8 +394,10 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
             workbook_->pricingData()->addPriceItem(priceItem_);
         }
         priceItem_.reset();
-    } else {
+        break;
+    default:
         applyProperty();
+        break;
     }
     text_.reset();
 }

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 class ZOLConcrete;
 class ZOLManHours;
@@ -84,6 +85,8 @@ private:
     std::shared_ptr<ZOLPriceItem> priceItem_;
     std::optional<std::string> text_;
     int32_t property_ = 0;
+    // What each open element is, innermost last.
+    std::vector<int32_t> open_;
 
     ZOLReadLimits limits_;
     std::shared_ptr<ZOLWorkbook> loaded_;
