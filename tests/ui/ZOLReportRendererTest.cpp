@@ -126,6 +126,29 @@ private slots:
             QVERIFY2(!url.contains(QStringLiteral("PrintingBackground")), qPrintable(url));
     }
 
+    void sampleJobPrintsOneSheetPerPageDiv() {
+        // zolest's PDF path: the report built by the core, rendered by zolest-render.
+        QTemporaryDir dir;
+        const QString sample = QStringLiteral(ZOL_SOURCE_DIR "/examples/sample-house.zol");
+        const QString html = dir.filePath(QStringLiteral("sample.html"));
+        const QString pdf = dir.filePath(QStringLiteral("sample.pdf"));
+        QProcess zolest;
+        zolest.start(QStringLiteral(ZOLEST_PATH),
+                     {QStringLiteral("report"), sample, QStringLiteral("-o"), html});
+        QVERIFY(zolest.waitForFinished(60000));
+        QCOMPARE(zolest.exitCode(), 0);
+        zolest.start(QStringLiteral(ZOLEST_PATH),
+                     {QStringLiteral("report"), sample, QStringLiteral("-o"), pdf});
+        QVERIFY(zolest.waitForFinished(120000));
+        QVERIFY2(zolest.exitCode() == 0, zolest.readAllStandardError().constData());
+        QFile file(html);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const int divs =
+            QString::fromUtf8(file.readAll()).count(QStringLiteral("<div class=\"page\">"));
+        QVERIFY(divs > 1);
+        QCOMPARE(sheetCount(pdf), divs);
+    }
+
     void everyPageDivIsOneLetterSheet() {
         // Forty page divs of 27.9 cm would drift onto forty-one 27.94 cm sheets without the
         // renderer's page breaks.
