@@ -4,6 +4,8 @@
 #include "io/ZOLPriceFileReader.h"
 #include "io/ZOLTemplateReader.h"
 #include "io/ZOLWorkbookReader.h"
+#include "model/ZOLOpening.h"
+#include "model/ZOLOpenings.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
@@ -13,68 +15,19 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <regex>
 #include <string>
 
 namespace {
 
-// Every leaf element of a worksheet with the same text.
-std::string worksheetWith(const std::string& value) {
-    std::string xml = "<Workbook><Worksheets><Worksheet Name=\"" + value + "\">";
-    const std::vector<std::pair<std::string, std::vector<std::string>>> records = {
-        {"ConcreteData",
-         {"Measurement", "FootingWidth", "FootingLength", "FootingDepth", "PileDepth",
-          "PileDiameter", "PileCount", "SlabLength", "SlabWidth", "SlabDepth", "WallLength",
-          "WallThickness", "WallHeight", "RemoveSqFtOpenings", "SqFtOpenings"}},
-        {"RebarData",
-         {"Measurement", "WallLength", "HorizontalSize1", "HorizontalRowCount1", "HorizontalLap1",
-          "HorizontalSize2", "HorizontalRowCount2", "HorizontalLap2", "WallHeight", "VerticalSize",
-          "VerticalSpacing", "DowelSize", "DowelSpacing", "DowelLength"}},
-        {"TiltData", {"WallHeight", "WallLength"}},
-        {"WallData",
-         {"BlockSize",
-          "WallHeight",
-          "WallLength",
-          "InsideCornerLocations",
-          "OutsideCornerLocations",
-          "AngleLocations",
-          "TBlockLocations",
-          "LinearFeetCorbel",
-          "LinearFeetCurb",
-          "CurbCornerLocations",
-          "LinearFeetTapered",
-          "LinearFeetRadius",
-          "Radius",
-          "SquareFeetOpenings",
-          "LinearFeetBuck",
-          "StraightBlockAdded",
-          "CornerBlockAdded",
-          "CaloraStickLayers",
-          "UseCutBlock",
-          "UseHalfBlock",
-          "UseExtenders",
-          "UsePravex",
-          "PelmoBrickHeight",
-          "PelmoBrickLength",
-          "PelmoPerBlock"}},
-        {"ManHourData",
-         {"SquareFeetOfWall", "CornersAndTs", "SquareFeetOfOpenings", "LinealFeetCorbelCurbTapered",
-          "WallHeight", "RebarComplexity", "CrewExperience", "SiteConditions", "OtherTurns",
-          "LaborCost", "CrewSize"}},
-    };
-    for (const auto& [record, fields] : records) {
-        xml += "<" + record + ">";
-        for (const auto& field : fields)
-            xml += "<" + field + ">" + value + "</" + field + ">";
-        xml += "</" + record + ">";
-    }
-    xml += "<OpeningData><OpeningList><Opening><RowNumber>" + value +
-           "</RowNumber><NumberOfOpenings>" + value + "</NumberOfOpenings><OpeningWidth>" + value +
-           "</OpeningWidth><OpeningHeight>" + value + "</OpeningHeight><UseSill>" + value +
-           "</UseSill></Opening></OpeningList></OpeningData>";
-    xml += "</Worksheet></Worksheets><PricingData><PriceItems><PriceItem><PartSize>" + value +
-           "</PartSize><PartType>" + value + "</PartType><Price>" + value +
-           "</Price></PriceItem></PriceItems></PricingData></Workbook>";
-    return xml;
+// A saved workbook (one worksheet with an opening and the price list) with the same text in
+// every leaf element and in the worksheet's name.
+std::string everyValue(const std::string& value) {
+    ZOLWorkbook workbook;
+    workbook.worksheets()[0]->openingData()->addOpeningObject(std::make_shared<ZOLOpening>());
+    const std::string saved = workbook.getXMLString();
+    std::string xml = std::regex_replace(saved, std::regex(">[^<\n]*</"), ">" + value + "</");
+    return std::regex_replace(xml, std::regex("Name=\"[^\"]*\""), "Name=\"" + value + "\"");
 }
 
 // What the application does with an opened workbook: show the job summary, total it, save.
@@ -113,13 +66,13 @@ TEST(ZOLHostileFiles, ExtremeNumbersReadCleanlyAndCanBeComputedAndSaved) {
                                     "Intense",
                                     "true",
                                     "(null)"}) {
-        auto result = ZOLWorkbookReader::readWorkbookData(worksheetWith(value));
+        auto result = ZOLWorkbookReader::readWorkbookData(everyValue(value));
         ASSERT_EQ(result.status, ZOLReadStatus::Read) << value;
         useWorkbook(*result.workbook);
     }
     // Numbers the reader does not take (hex, nan, inf) read as 0; overflow saturates.
     auto wall = [](const std::string& value) {
-        return ZOLWorkbookReader::readWorkbookData(worksheetWith(value))
+        return ZOLWorkbookReader::readWorkbookData(everyValue(value))
             .workbook->worksheets()[0]
             ->wallData();
     };
