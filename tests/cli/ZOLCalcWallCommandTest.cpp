@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include <set>
+#include <sstream>
 
 namespace {
 nlohmann::json jsonOf(std::vector<std::string> args) {
@@ -15,47 +16,63 @@ nlohmann::json jsonOf(std::vector<std::string> args) {
     EXPECT_EQ(result.exitCode, 0) << result.err;
     return nlohmann::json::parse(result.out);
 }
+
+std::vector<std::string> words(const std::string& text) {
+    std::vector<std::string> list;
+    std::istringstream in(text);
+    for (std::string word; in >> word;)
+        list.push_back(word);
+    return list;
+}
+
+// Every wall field as an option: the text typed and the value the wall then holds.
+struct Field {
+    const char* name;
+    const char* text;
+    nlohmann::json value;
+};
+const Field kFields[] = {
+    {"blockSize", "6", 6},
+    {"wallHeight", "9.334", 9.334},
+    {"wallLength", "80", 80.0},
+    {"insideCornerLocations", "1", 1},
+    {"outsideCornerLocations", "2", 2},
+    {"angleLocations", "3", 3},
+    {"tBlockLocations", "4", 4},
+    {"linearFeetCorbel", "5", 5.0},
+    {"linearFeetCurb", "6", 6.0},
+    {"curbCornerLocations", "7", 7},
+    {"linearFeetTapered", "8", 8.0},
+    {"linearFeetRadius", "9", 9.0},
+    {"radius", "11", 11},
+    {"sqftOpenings", "12", 12.0},
+    {"linearFeetBuck", "13", 13.0},
+    {"straightBlockAdded", "14", 14},
+    {"cornerBlockAdded", "15", 15},
+    {"caloraStickLayers", "1", 1},
+    {"useCutBlock", "yes", true},
+    {"useHalfBlock", "on", true},
+    {"useExtenders", "1", true},
+    {"usePravex", "true", true},
+    {"pelmoBrickHeight", "2.5", 2.5},
+    {"pelmoBrickLength", "30", 30.0},
+    {"pelmoPerBlock", "2", 2},
+    {"wastePercentage", "0.05", 0.05},
+};
 } // namespace
 
 TEST(ZOLCalcWallCommand, JsonHasEveryQueryAndThePartRows) {
     const nlohmann::json j = jsonOf({"--wallLength", "100", "--wallHeight", "8"});
-    const std::set<std::string> queries = {"getTotalWallHeight",
-                                           "getRows",
-                                           "getLinearFeetOfStraightBlock",
-                                           "getLinearFeetOfInsideCorners",
-                                           "getLinearFeetOfOutsideCorners",
-                                           "getLinearFeetOfAngles",
-                                           "getLinearFeetOfTBlock",
-                                           "getOpeningsInBlockCount",
-                                           "getGrossSqFtOfWall",
-                                           "getNetSqFtOfWall",
-                                           "getStraightBlocks",
-                                           "getStraightHalfBlocks",
-                                           "getStraightCutBlocks",
-                                           "getCornerBlocks",
-                                           "getCornerHalfBlocks",
-                                           "getCornerCutBlocks",
-                                           "getAngleBlocks",
-                                           "getTBlocks",
-                                           "getStraightCurbBlocks",
-                                           "getCornerCurbBlocks",
-                                           "getCorbelBlocks",
-                                           "getTaperedBlocks",
-                                           "getRadiusBlocks",
-                                           "getZolBuck",
-                                           "getExtenders",
-                                           "getHVClips",
-                                           "getCaloraSticks",
-                                           "getCaloraStickBundles",
-                                           "getCaloraStickWeight",
-                                           "getPravexes",
-                                           "getPelmos",
-                                           "getTrucks",
-                                           "getConcreteYards",
-                                           "getConcreteMeters",
-                                           "getBracing",
-                                           "getLinearFeetRebar",
-                                           "getTotalPartsWeight"};
+    const std::vector<std::string> queries = words(
+        "getTotalWallHeight getRows getLinearFeetOfStraightBlock getLinearFeetOfInsideCorners "
+        "getLinearFeetOfOutsideCorners getLinearFeetOfAngles getLinearFeetOfTBlock "
+        "getOpeningsInBlockCount getGrossSqFtOfWall getNetSqFtOfWall getStraightBlocks "
+        "getStraightHalfBlocks getStraightCutBlocks getCornerBlocks getCornerHalfBlocks "
+        "getCornerCutBlocks getAngleBlocks getTBlocks getStraightCurbBlocks getCornerCurbBlocks "
+        "getCorbelBlocks getTaperedBlocks getRadiusBlocks getZolBuck getExtenders getHVClips "
+        "getCaloraSticks getCaloraStickBundles getCaloraStickWeight getPravexes getPelmos "
+        "getTrucks getConcreteMeters getConcreteYards getBracing getLinearFeetRebar "
+        "getTotalPartsWeight");
     std::set<std::string> keys;
     for (const auto& item : j.items())
         keys.insert(item.key());
@@ -80,84 +97,13 @@ TEST(ZOLCalcWallCommand, JsonHasEveryQueryAndThePartRows) {
 }
 
 TEST(ZOLCalcWallCommand, EveryFieldIsAnOption) {
-    const nlohmann::json j = jsonOf({"--blockSize",
-                                     "6",
-                                     "--wallHeight",
-                                     "9.334",
-                                     "--wallLength",
-                                     "80",
-                                     "--insideCornerLocations",
-                                     "1",
-                                     "--outsideCornerLocations",
-                                     "2",
-                                     "--angleLocations",
-                                     "3",
-                                     "--tBlockLocations",
-                                     "4",
-                                     "--linearFeetCorbel",
-                                     "5",
-                                     "--linearFeetCurb",
-                                     "6",
-                                     "--curbCornerLocations",
-                                     "7",
-                                     "--linearFeetTapered",
-                                     "8",
-                                     "--linearFeetRadius",
-                                     "9",
-                                     "--radius",
-                                     "11",
-                                     "--sqftOpenings",
-                                     "12",
-                                     "--linearFeetBuck",
-                                     "13",
-                                     "--straightBlockAdded",
-                                     "14",
-                                     "--cornerBlockAdded",
-                                     "15",
-                                     "--caloraStickLayers",
-                                     "1",
-                                     "--useCutBlock",
-                                     "yes",
-                                     "--useHalfBlock",
-                                     "on",
-                                     "--useExtenders",
-                                     "1",
-                                     "--usePravex",
-                                     "true",
-                                     "--pelmoBrickHeight",
-                                     "2.5",
-                                     "--pelmoBrickLength",
-                                     "30",
-                                     "--pelmoPerBlock",
-                                     "2",
-                                     "--wastePercentage",
-                                     "0.05"});
-    const nlohmann::json expected = {{"blockSize", 6},
-                                     {"wallHeight", 9.334},
-                                     {"wallLength", 80.0},
-                                     {"insideCornerLocations", 1},
-                                     {"outsideCornerLocations", 2},
-                                     {"angleLocations", 3},
-                                     {"tBlockLocations", 4},
-                                     {"linearFeetCorbel", 5.0},
-                                     {"linearFeetCurb", 6.0},
-                                     {"curbCornerLocations", 7},
-                                     {"linearFeetTapered", 8.0},
-                                     {"linearFeetRadius", 9.0},
-                                     {"radius", 11},
-                                     {"sqftOpenings", 12.0},
-                                     {"linearFeetBuck", 13.0},
-                                     {"straightBlockAdded", 14},
-                                     {"cornerBlockAdded", 15},
-                                     {"caloraStickLayers", 1},
-                                     {"useCutBlock", true},
-                                     {"useHalfBlock", true},
-                                     {"useExtenders", true},
-                                     {"usePravex", true},
-                                     {"pelmoBrickHeight", 2.5},
-                                     {"pelmoBrickLength", 30.0},
-                                     {"pelmoPerBlock", 2},
-                                     {"wastePercentage", 0.05}};
+    std::vector<std::string> args;
+    nlohmann::json expected;
+    for (const Field& f : kFields) {
+        args.insert(args.end(), {std::string("--") + f.name, f.text});
+        expected[f.name] = f.value;
+    }
+    const nlohmann::json j = jsonOf(args);
     EXPECT_EQ(j["fields"], expected);
     EXPECT_EQ(j["getRows"], 7);
     EXPECT_EQ(j["getPelmos"], 29); // 75 sq ft / 2.6
@@ -226,34 +172,10 @@ TEST(ZOLCalcWallCommand, RefusalsExitWithTwo) {
 TEST(ZOLCalcWallCommand, HelpListsEveryField) {
     const CliResult r = runZolest({"calc", "wall", "--help"});
     EXPECT_EQ(r.exitCode, 0);
-    for (const char* field : {"blockSize",
-                              "wallHeight",
-                              "wallLength",
-                              "insideCornerLocations",
-                              "outsideCornerLocations",
-                              "angleLocations",
-                              "tBlockLocations",
-                              "linearFeetCorbel",
-                              "linearFeetCurb",
-                              "curbCornerLocations",
-                              "linearFeetTapered",
-                              "linearFeetRadius",
-                              "radius",
-                              "sqftOpenings",
-                              "linearFeetBuck",
-                              "straightBlockAdded",
-                              "cornerBlockAdded",
-                              "caloraStickLayers",
-                              "useCutBlock",
-                              "useHalfBlock",
-                              "useExtenders",
-                              "usePravex",
-                              "pelmoBrickHeight",
-                              "pelmoBrickLength",
-                              "pelmoPerBlock",
-                              "wastePercentage",
-                              "opening",
-                              "json"})
+    std::vector<std::string> options = {"opening", "json"};
+    for (const Field& f : kFields)
+        options.push_back(f.name);
+    for (const std::string& field : options)
         EXPECT_NE(r.out.find(std::string("--") + field + " "), std::string::npos) << field;
     EXPECT_NE(runZolest({"--help"}).out.find("calc"), std::string::npos);
     EXPECT_NE(runZolest({"calc", "--help"}).out.find("wall"), std::string::npos);

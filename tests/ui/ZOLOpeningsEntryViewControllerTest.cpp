@@ -50,6 +50,14 @@ class ZOLOpeningsEntryViewControllerTest : public QObject {
         // The table commits the editor's text once the key has been handled.
         QCoreApplication::processEvents();
     }
+    // Adds a row and types its count, width and height.
+    void addRow(const char* count, const char* width, const char* height) {
+        button("addOpening")->click();
+        const int row = table()->rowCount() - 1;
+        typeInCell(row, "NumberOfOpenings", count);
+        typeInCell(row, "Width", width);
+        typeInCell(row, "Height", height);
+    }
     QString cell(int row, const char* identifier) {
         return table()->item(row, column(identifier))->text();
     }
@@ -94,10 +102,7 @@ private slots:
     }
 
     void cellEditsWriteTheRowAndTheTotals() {
-        button("addOpening")->click();
-        typeInCell(0, "NumberOfOpenings", "2");
-        typeInCell(0, "Width", "36");
-        typeInCell(0, "Height", "48");
+        addRow("2", "36", "48");
         const auto& row = *openings->openingList()[0];
         QCOMPARE(row.numberOfOpenings(), 2);
         QCOMPARE(row.openingWidth(), 36.0);
@@ -124,10 +129,7 @@ private slots:
     }
 
     void removeSillBoxIsTheInverseOfTheSill() {
-        button("addOpening")->click();
-        typeInCell(0, "NumberOfOpenings", "1");
-        typeInCell(0, "Width", "36");
-        typeInCell(0, "Height", "48");
+        addRow("1", "36", "48");
         QTableWidgetItem* box = table()->item(0, column("RemoveSill"));
         QCOMPARE(box->checkState(), Qt::Unchecked);
         QCOMPARE(openings->getTotalLinearFeetOfBuck(), 14.67);
@@ -159,10 +161,7 @@ private slots:
         QCOMPARE(alerts->alerts[0].buttons, std::vector<std::string>{"OK"});
         QCOMPARE(wall->sqftOpenings(), 5.0);
 
-        button("addOpening")->click();
-        typeInCell(0, "NumberOfOpenings", "2");
-        typeInCell(0, "Width", "36");
-        typeInCell(0, "Height", "48");
+        addRow("2", "36", "48");
         table()->item(0, column("RemoveSill"))->setCheckState(Qt::Checked);
 
         QSignalSpy edited(screen.get(), &ZOLOpeningsEntryViewController::edited);

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTimer>
@@ -17,6 +16,7 @@
 #include <QtTest>
 
 #include <memory>
+#include <tuple>
 
 class ZOLWallEntryViewControllerTest : public QObject {
     Q_OBJECT
@@ -105,20 +105,14 @@ private slots:
     }
 
     void endOfEditingRewritesTheFieldFromTheWall() {
-        QLineEdit* length = field("wallLength");
-        type(length, "12.5");
-        QTest::keyClick(length, Qt::Key_Return);
-        QCOMPARE(length->text(), QString("12.50"));
-
-        QLineEdit* corbel = field("lfCorbelBlock");
-        type(corbel, "1.2.3");
-        QTest::keyClick(corbel, Qt::Key_Return);
-        QCOMPARE(corbel->text(), QString("1.20"));
-
-        QLineEdit* outside = field("outsideCornerLocations");
-        type(outside, "07");
-        QTest::keyClick(outside, Qt::Key_Return);
-        QCOMPARE(outside->text(), QString("7"));
+        const char* const edits[][3] = {{"wallLength", "12.5", "12.50"},
+                                        {"lfCorbelBlock", "1.2.3", "1.20"},
+                                        {"outsideCornerLocations", "07", "7"}};
+        for (const auto& [name, keys, shown] : edits) {
+            type(field(name), keys);
+            QTest::keyClick(field(name), Qt::Key_Return);
+            QCOMPARE(field(name)->text(), QString(shown));
+        }
 
         // Moving on with Tab ends the editing too.
         type(field("sqftOpenings"), "20");
@@ -145,29 +139,23 @@ private slots:
         QVERIFY(box("radius")->isEnabled());
         QVERIFY(!field("lfCurbBlock")->isEnabled());
 
-        choose(box("blockSize"), 2);
-        QCOMPARE(wall->blockSize(), 8);
-        QVERIFY(field("lfCurbBlock")->isEnabled());
-        QVERIFY(field("cornerCurbLocations")->isEnabled());
-        QVERIFY(!field("lfRadiusBlock")->isEnabled());
-        QVERIFY(!box("radius")->isEnabled());
-        QVERIFY(field("tBlockLocations")->isEnabled());
-
-        // 10-inch: curb yes; corbel, taper, T and angle no.
-        choose(box("blockSize"), 3);
-        QCOMPARE(wall->blockSize(), 10);
-        QVERIFY(field("lfCurbBlock")->isEnabled());
-        QVERIFY(!field("lfCorbelBlock")->isEnabled());
-        QVERIFY(!field("lfTaperedBlock")->isEnabled());
-        QVERIFY(!field("tBlockLocations")->isEnabled());
-        QVERIFY(!field("angleLocations")->isEnabled());
-        QVERIFY(field("lfZolBuck")->isEnabled());
-
-        // 4-inch: angles only among the shapes.
-        choose(box("blockSize"), 0);
-        QCOMPARE(wall->blockSize(), 4);
-        QVERIFY(field("angleLocations")->isEnabled());
-        QVERIFY(!field("lfCurbBlock")->isEnabled());
+        // Each size enables only the shapes made in it (a leading ! means disabled).
+        const std::tuple<int, int32_t, const char*> sizes[] = {
+            {2, 8, "lfCurbBlock cornerCurbLocations !lfRadiusBlock !radius tBlockLocations"},
+            {3, 10,
+             "lfCurbBlock !lfCorbelBlock !lfTaperedBlock !tBlockLocations !angleLocations "
+             "lfZolBuck"},
+            {0, 4, "angleLocations !lfCurbBlock"}};
+        for (const auto& [index, size, states] : sizes) {
+            choose(box("blockSize"), index);
+            QCOMPARE(wall->blockSize(), size);
+            for (const QString& state : QString(states).split(' ')) {
+                const bool enabled = !state.startsWith('!');
+                const QString name = enabled ? state : state.mid(1);
+                QVERIFY2(control<QWidget>(name.toLatin1().constData())->isEnabled() == enabled,
+                         qPrintable(state));
+            }
+        }
 
         // Disabling keeps what was typed behind the control.
         wall->setLinearFeetCurb(12.0);
@@ -193,16 +181,16 @@ private slots:
     }
 
     void comboBoxesMapTheirItems() {
-        choose(box("radius"), 0);
-        QCOMPARE(wall->radius(), 5);
-        choose(box("radius"), 7);
-        QCOMPARE(wall->radius(), 12);
-        choose(box("caloraStickLayers"), 2);
-        QCOMPARE(wall->caloraStickLayers(), 2);
-        choose(box("pelmoPerBlock"), 0);
-        QCOMPARE(wall->pelmoPerBlock(), 2);
-        choose(box("pelmoPerBlock"), 1);
-        QCOMPARE(wall->pelmoPerBlock(), 3);
+        const std::tuple<const char*, int, int32_t (ZOLWall::*)() const, int32_t> picks[] = {
+            {"radius", 0, &ZOLWall::radius, 5},
+            {"radius", 7, &ZOLWall::radius, 12},
+            {"caloraStickLayers", 2, &ZOLWall::caloraStickLayers, 2},
+            {"pelmoPerBlock", 0, &ZOLWall::pelmoPerBlock, 2},
+            {"pelmoPerBlock", 1, &ZOLWall::pelmoPerBlock, 3}};
+        for (const auto& [name, index, read, value] : picks) {
+            choose(box(name), index);
+            QCOMPARE(((*wall).*read)(), value);
+        }
 
         // Loading selects by value: the default radius of 10 is the sixth item; a cleared wall's
         // 0 pelmos per block selects nothing.
@@ -348,71 +336,20 @@ private slots:
             if (QApplication::focusWidget() == start)
                 break;
         }
-        for (const char* name : {"wallHeight",
-                                 "addHalfBlock",
-                                 "addCutBlock",
-                                 "addExtenders",
-                                 "wallLength",
-                                 "blockSize",
-                                 "insideCornerLocations",
-                                 "outsideCornerLocations",
-                                 "angleLocations",
-                                 "tBlockLocations",
-                                 "lfCorbelBlock",
-                                 "lfCurbBlock",
-                                 "cornerCurbLocations",
-                                 "lfTaperedBlock",
-                                 "lfRadiusBlock",
-                                 "sqftOpenings",
-                                 "lfZolBuck",
-                                 "addedStraightBlocks",
-                                 "addStraightStepper",
-                                 "addedCornerBlocks",
-                                 "addCornerStepper",
-                                 "caloraStickLayers",
-                                 "addPravex",
-                                 "lfBrick",
-                                 "brickHeight",
-                                 "pelmoPerBlock",
-                                 "wallHeightInfo"}) {
+        const QStringList controls =
+            QString(
+                "wallHeight addHalfBlock addCutBlock addExtenders wallLength blockSize "
+                "insideCornerLocations outsideCornerLocations angleLocations tBlockLocations "
+                "lfCorbelBlock lfCurbBlock cornerCurbLocations lfTaperedBlock lfRadiusBlock "
+                "sqftOpenings lfZolBuck addedStraightBlocks addStraightStepper addedCornerBlocks "
+                "addCornerStepper caloraStickLayers addPravex lfBrick brickHeight pelmoPerBlock "
+                "wallHeightInfo")
+                .split(' ');
+        for (const QString& name : controls) {
             // Controls disabled for this block size are skipped by Tab, as they should be.
-            if (control<QWidget>(name)->isEnabled())
-                QVERIFY2(reached.contains(name), name);
+            if (control<QWidget>(name.toLatin1().constData())->isEnabled())
+                QVERIFY2(reached.contains(name), qPrintable(name));
         }
-    }
-
-    // Not a check: prints how long one keystroke in the wall length takes to reach the screen.
-    void measureKeystrokeToRefresh() {
-        QLineEdit* length = field("wallLength");
-        type(length, "");
-        QElapsedTimer timer;
-        const int keystrokes = 200;
-        qint64 handle = 0;
-        qint64 paint = 0;
-        qint64 full = 0;
-        qint64 worst = 0;
-        for (int i = 0; i < keystrokes; ++i) {
-            if (i % 6 == 0)
-                type(length, "");
-            QCoreApplication::processEvents();
-            timer.start();
-            QTest::keyClick(length, static_cast<char>('1' + i % 9));
-            const qint64 a = timer.nsecsElapsed();
-            QCoreApplication::processEvents();
-            const qint64 b = timer.nsecsElapsed();
-            handle += a;
-            paint += b - a;
-            worst = std::max(worst, b);
-            timer.start();
-            screen->repaint();
-            full += timer.nsecsElapsed();
-        }
-        // The update paints what the keystroke changed: the field and the results beside it.
-        // A repaint of the whole screen happens only when the tab is shown or resized.
-        qInfo("keystroke: handled in %.3f ms, screen updated in %.3f ms more (worst %.3f ms "
-              "in all); a whole-screen repaint takes %.3f ms",
-              handle / 1e6 / keystrokes, paint / 1e6 / keystrokes, worst / 1e6,
-              full / 1e6 / keystrokes);
     }
 
     void screenshot() {
