@@ -55,6 +55,7 @@ ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricin
     if (QTableWidgetItem* item = ui_->priceTable->horizontalHeaderItem(kPriceColumn))
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     ui_->priceTable->setItemDelegateForColumn(kPriceColumn, new PriceDelegate(ui_->priceTable));
+    ui_->priceTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
 
     connect(ui_->priceTable, &QTableWidget::itemChanged, this,
             &ZOLPricingWindowController::priceEdited);
@@ -64,6 +65,8 @@ ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricin
             &ZOLPricingWindowController::savePricing);
     connect(ui_->done, &QPushButton::clicked, this, &QDialog::accept);
     loadData();
+    // Typing on an opened window goes into the first price.
+    ui_->priceTable->setCurrentCell(0, kPriceColumn);
 }
 
 ZOLPricingWindowController::~ZOLPricingWindowController() = default;

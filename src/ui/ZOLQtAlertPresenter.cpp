@@ -84,6 +84,7 @@ int ZOLQtAlertPresenter::presentWithField(const ZOLAlert& alert, std::string& te
     QLineEdit* line = nullptr;
     QPlainTextEdit* area = nullptr;
     if (field == Field::Line) {
+        dialog.setMinimumWidth(360); // the message on one line above the field
         line = new QLineEdit(qs(text), &dialog);
         line->setObjectName("alertField");
         line->setMinimumWidth(200);

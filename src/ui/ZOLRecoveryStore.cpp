@@ -8,7 +8,6 @@
 #include <QStandardPaths>
 #include <QUuid>
 
-
 namespace {
 const char* kPrefix = "recovery-";
 const char* kSuffix = ".zol";

@@ -1,0 +1,737 @@
+#include "ui/ZOLDocument.h"
+
+#include "io/ZOLAtomicFile.h"
+#include "io/ZOLFileBytes.h"
+#include "io/ZOLSaxParser.h"
+#include "io/ZOLWorkbookReader.h"
+#include "model/ZOLPricing.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
+#include "platform/ZOLAlerts.h"
+#include "report/ZOLPrintData.h"
+#include "ui/ZOLBlockInfoViewController.h"
+#include "ui/ZOLDocumentController.h"
+#include "ui/ZOLFieldAlerts.h"
+#include "ui/ZOLFilePanels.h"
+#include "ui/ZOLOpeningsEntryViewController.h"
+#include "ui/ZOLPricingWindowController.h"
+#include "ui/ZOLPrintSettingsWindowController.h"
+#include "ui/ZOLRecentFiles.h"
+#include "ui/ZOLRecoveryStore.h"
+#include "ui/ZOLReportRenderer.h"
+#include "ui/ZOLSettingsPreferences.h"
+#include "ui/ZOLWallEntryViewController.h"
+#include "ui/ZOLWallInfoViewController.h"
+#include "ui/ZOLWorkbookSummaryViewController.h"
+#include "ui_ZOLDocument.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeySequence>
+#include <QMenuBar>
+#include <QPageSize>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScrollArea>
+#include <QTimer>
+#include <QUrl>
+
+namespace {
+QString qs(const std::string& text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString qs(const std::optional<std::string>& text) {
+    return text ? qs(*text) : QString();
+}
+
+std::string utf8(const QString& text) {
+    return text.toUtf8().toStdString();
+}
+
+std::string nativePath(const QString& path) {
+    return QFile::encodeName(path).toStdString();
+}
+
+const char* kDuplicateWorksheet =
+    "A worksheet with that name already exists. Please try again with a different worksheet "
+    "name.";
+} // namespace
+
+ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
+    : QMainWindow(parent), ui_(std::make_unique<Ui::ZOLDocument>()), controller_(controller),
+      autosaveTimer_(new QTimer(this)) {
+    ui_->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose, controller_ != nullptr);
+    if (controller_)
+        untitledNumber_ = controller_->nextUntitledNumber();
+
+    // The header sits on a black band; the screens below keep the ordinary colours. The
+    // ordinary palette is set role by role so that the band's colours do not pass through.
+    QPalette band = ui_->mainView->palette();
+    band.setColor(QPalette::Window, Qt::black);
+    band.setColor(QPalette::WindowText, Qt::white);
+    ui_->mainView->setPalette(band);
+    ui_->mainView->setAutoFillBackground(true);
+    QPalette ordinary = QApplication::palette();
+    for (auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (auto role : {QPalette::Window, QPalette::WindowText})
+            ordinary.setColor(group, role, QApplication::palette().color(group, role));
+    for (QWidget* widget :
+         {static_cast<QWidget*>(ui_->tabView), static_cast<QWidget*>(ui_->addWorksheet),
+          static_cast<QWidget*>(ui_->renameWorksheet), static_cast<QWidget*>(ui_->deleteWorksheet),
+          static_cast<QWidget*>(ui_->notes)})
+        widget->setPalette(ordinary);
+
+    autosaveTimer_->setSingleShot(true);
+    connect(autosaveTimer_, &QTimer::timeout, this, &ZOLDocument::autosave);
+
+    installScreens();
+    buildMenus();
+    connectHeader();
+    connect(ui_->tabView, &QTabWidget::currentChanged, this, &ZOLDocument::tabViewDidSelect);
+    connect(ui_->worksheetSelection, &QComboBox::activated, this,
+            &ZOLDocument::comboBoxSelectionDidChange);
+    connect(ui_->addWorksheet, &QPushButton::clicked, this, &ZOLDocument::addWorksheet);
+    connect(ui_->renameWorksheet, &QPushButton::clicked, this, &ZOLDocument::renameWorksheet);
+    connect(ui_->deleteWorksheet, &QPushButton::clicked, this, &ZOLDocument::deleteWorksheet);
+    connect(ui_->notes, &QPushButton::clicked, this, &ZOLDocument::editNotes);
+
+    loadWorkbook(nullptr);
+    cleanState_ = dataOfType();
+    lastAutosaved_ = cleanState_;
+    updateTitle();
+}
+
+ZOLDocument::~ZOLDocument() = default;
+
+// ---------------------------------------------------------------------------------------------
+// Screens
+
+template <class Controller>
+Controller* ZOLDocument::addScreen(
+    const QString& title, const char* scrollViewName, const char* tabName,
+    std::function<void(Controller*, const std::shared_ptr<ZOLWorksheet>&, const std::string&)>
+        hand) {
+    auto* scrollView = new QScrollArea(ui_->tabView);
+    scrollView->setObjectName(QString::fromLatin1(scrollViewName));
+    scrollView->setWidgetResizable(true);
+    scrollView->setFrameShape(QFrame::NoFrame);
+    scrollView->setFocusPolicy(Qt::NoFocus); // Tab goes from the tab bar into the screen's fields
+    auto* controller = new Controller(scrollView);
+    scrollView->setWidget(controller);
+    scrollView->setProperty("tabName", QString::fromLatin1(tabName));
+    // Tab moves on from a table to the next control (arrow keys move between its cells);
+    // otherwise the focus would go round the table's cells for ever.
+    for (auto* view : controller->template findChildren<QAbstractItemView*>())
+        view->setTabKeyNavigation(false);
+    ui_->tabView->addTab(scrollView, title);
+    Screen screen{controller, scrollView, nullptr, [controller] { controller->loadValues(); }};
+    screen.hand = [controller, hand](const std::shared_ptr<ZOLWorksheet>& sheet,
+                                     const std::string& name) { hand(controller, sheet, name); };
+    screens_.push_back(std::move(screen));
+    return controller;
+}
+
+// The screens in the order in which they receive their records; the tabs show in this order.
+// The rebar, concrete, tilt-up, man-hours and job summary screens take their places between
+// and after these when they come.
+void ZOLDocument::installScreens() {
+    using Sheet = std::shared_ptr<ZOLWorksheet>;
+    auto* wallEntry = addScreen<ZOLWallEntryViewController>(
+        tr("Wall Entry"), "wallEntryScrollView", "wallEntryTab",
+        [](ZOLWallEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setWallData(sheet->wallData());
+        });
+    auto* openingsEntry = addScreen<ZOLOpeningsEntryViewController>(
+        tr("Openings"), "openingScrollView", "openingsEntryTab",
+        [](ZOLOpeningsEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setOpeningData(sheet->openingData());
+            screen->setWallData(sheet->wallData());
+        });
+    auto* blockInfo = addScreen<ZOLBlockInfoViewController>(
+        tr("Block Info"), "blockInfoScrollView", "blockInfoTab",
+        [](ZOLBlockInfoViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setWallData(sheet->wallData());
+        });
+    auto* wallInfo = addScreen<ZOLWallInfoViewController>(
+        tr("Wall Info"), "wallInfoScrollView", "wallInfoTab",
+        [](ZOLWallInfoViewController* screen, const Sheet& sheet, const std::string& name) {
+            screen->setWallData(sheet->wallData());
+            screen->setWorksheetName(name);
+        });
+    workbookSummary_ = addScreen<ZOLWorkbookSummaryViewController>(
+        tr("Workbook Summary"), "workbookSummaryScrollView", "workbookSummaryTab",
+        [this](ZOLWorkbookSummaryViewController* screen, const Sheet&, const std::string&) {
+            screen->setWorkbook(workbook_);
+        });
+
+    // Screens write straight into the records; the document only learns that something changed.
+    connect(wallEntry, &ZOLWallEntryViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(openingsEntry, &ZOLOpeningsEntryViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(blockInfo, &ZOLBlockInfoViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(wallInfo, &ZOLWallInfoViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(workbookSummary_, &ZOLWorkbookSummaryViewController::edited, this,
+            &ZOLDocument::noteEdit);
+    connect(workbookSummary_, &ZOLWorkbookSummaryViewController::editPricingRequested, this,
+            &ZOLDocument::editPricing);
+}
+
+QWidget* ZOLDocument::screenNamed(const QString& objectName) const {
+    for (const Screen& screen : screens_)
+        if (screen.view->metaObject()->className() == objectName ||
+            screen.scrollView->objectName() == objectName)
+            return screen.view;
+    return nullptr;
+}
+
+QTabWidget* ZOLDocument::tabView() const {
+    return ui_->tabView;
+}
+
+QComboBox* ZOLDocument::worksheetSelection() const {
+    return ui_->worksheetSelection;
+}
+
+void ZOLDocument::tabViewDidSelect(int index) {
+    QWidget* page = ui_->tabView->widget(index);
+    for (const Screen& screen : screens_)
+        if (screen.scrollView == page) {
+            screen.loadValues();
+            return;
+        }
+}
+
+// ---------------------------------------------------------------------------------------------
+// Workbook and worksheets
+
+void ZOLDocument::loadWorkbook(std::shared_ptr<ZOLWorkbook> workbook) {
+    if (!workbook)
+        workbook = std::make_shared<ZOLWorkbook>();
+    workbook_ = std::move(workbook);
+
+    loading_ = true;
+    const auto date = workbook_->projectDate();
+    ui_->projectDate->setDateTime(
+        QDateTime::fromSecsSinceEpoch(date ? *date : QDateTime::currentSecsSinceEpoch()));
+    ui_->projectName->setText(qs(workbook_->projectName()));
+    ui_->clientName->setText(qs(workbook_->clientName()));
+    ui_->projectVersion->setText(qs(workbook_->projectVersion()));
+    ui_->distributorName->setText(qs(workbook_->distributorName()));
+    loading_ = false;
+
+    reloadWorksheetSelector();
+    loadWorksheetDataWithIndex(0);
+}
+
+void ZOLDocument::reloadWorksheetSelector() {
+    QComboBox* box = ui_->worksheetSelection;
+    const QSignalBlocker blocker(box);
+    const int selected = box->currentIndex();
+    box->clear();
+    for (const auto& sheet : workbook_->worksheets())
+        box->addItem(qs(sheet->name()));
+    box->setCurrentIndex(selected < box->count() ? selected : -1);
+}
+
+void ZOLDocument::loadWorksheetDataWithIndex(int32_t index) {
+    const auto& sheets = workbook_->worksheets();
+    if (index < 0 || static_cast<size_t>(index) >= sheets.size())
+        return;
+    const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
+
+    // The selector follows the workbook's list as it is now.
+    reloadWorksheetSelector();
+    {
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setCurrentIndex(index);
+    }
+
+    const std::string name = sheet->name();
+    for (const Screen& screen : screens_) {
+        screen.hand(sheet, name);
+        screen.loadValues();
+    }
+}
+
+int32_t ZOLDocument::selectedWorksheetIndex() const {
+    return ui_->worksheetSelection->currentIndex();
+}
+
+void ZOLDocument::comboBoxSelectionDidChange(int index) {
+    loadWorksheetDataWithIndex(index);
+}
+
+void ZOLDocument::addWorksheet() {
+    std::string name;
+    const int answer =
+        ZOLFieldAlerts::run({"Enter a name for the new worksheet", "", {"OK", "Cancel"}}, name,
+                            ZOLFieldAlertPresenter::Field::Line);
+    if (answer != 0)
+        return;
+    if (workbook_->worksheetExistsWithName(name)) {
+        ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
+        return;
+    }
+    workbook_->addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
+    reloadWorksheetSelector();
+    {
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setCurrentIndex(ui_->worksheetSelection->count() - 1);
+    }
+    loadWorksheetDataWithIndex(selectedWorksheetIndex());
+    noteEdit();
+}
+
+void ZOLDocument::renameWorksheet() {
+    const int32_t index = selectedWorksheetIndex();
+    const auto& sheets = workbook_->worksheets();
+    if (index < 0 || static_cast<size_t>(index) >= sheets.size())
+        return;
+    const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
+
+    std::string name = sheet->name();
+    const int answer =
+        ZOLFieldAlerts::run({"Enter a new name for this worksheet", "", {"OK", "Cancel"}}, name,
+                            ZOLFieldAlertPresenter::Field::Line);
+    if (answer != 0 || name == sheet->name())
+        return;
+    if (workbook_->worksheetExistsWithName(name)) {
+        ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
+        return;
+    }
+    sheet->setName(name);
+    // Only the selector shows the new name; the screens keep theirs until the next reload.
+    reloadWorksheetSelector();
+    noteEdit();
+}
+
+void ZOLDocument::deleteWorksheet() {
+    if (ZOLAlerts::run("Are you sure you want to delete this worksheet?", "", {"OK", "Cancel"}) !=
+        0)
+        return;
+    const int32_t index = selectedWorksheetIndex();
+    auto sheets = workbook_->worksheets();
+    if (index < 0 || static_cast<size_t>(index) >= sheets.size())
+        return;
+    sheets.erase(sheets.begin() + index);
+    workbook_->setWorksheets(std::move(sheets));
+    // The window is left as it stands: the selector and the screens still show the deleted
+    // worksheet until another one is chosen.
+    noteEdit();
+}
+
+void ZOLDocument::editNotes() {
+    std::string notes = workbook_->notes().value_or(std::string());
+    if (ZOLFieldAlerts::run({"Project Notes", "", {"Done", "Cancel"}}, notes,
+                            ZOLFieldAlertPresenter::Field::Text) != 0)
+        return;
+    workbook_->setNotes(notes);
+    noteEdit();
+}
+
+void ZOLDocument::editPricing() {
+    ZOLPricingWindowController window(workbook_->pricingData(), this);
+    window.exec();
+    if (workbookSummary_)
+        workbookSummary_->loadValues();
+    noteEdit();
+}
+
+void ZOLDocument::displayBulletins() {
+    const QString address = ZOLSettingsKeys::technicalBulletinsURL();
+    if (!QDesktopServices::openUrl(QUrl(address)))
+        ZOLAlerts::run("The technical bulletins could not be opened.",
+                       utf8(tr("No web browser opened %1.").arg(address)), {"OK"});
+}
+
+void ZOLDocument::connectHeader() {
+    // Each keystroke goes straight into the workbook.
+    connect(ui_->projectName, &QLineEdit::textEdited, this, [this](const QString& text) {
+        workbook_->setProjectName(utf8(text));
+        noteEdit();
+    });
+    connect(ui_->clientName, &QLineEdit::textEdited, this, [this](const QString& text) {
+        workbook_->setClientName(utf8(text));
+        noteEdit();
+    });
+    connect(ui_->projectVersion, &QLineEdit::textEdited, this, [this](const QString& text) {
+        workbook_->setProjectVersion(utf8(text));
+        noteEdit();
+    });
+    connect(ui_->distributorName, &QLineEdit::textEdited, this, [this](const QString& text) {
+        workbook_->setDistributorName(utf8(text));
+        noteEdit();
+    });
+    // A new day keeps the time of day the project was dated with.
+    connect(ui_->projectDate, &QDateEdit::dateChanged, this, [this](const QDate& date) {
+        if (loading_ || !date.isValid())
+            return;
+        const auto old = workbook_->projectDate();
+        const QTime time =
+            QDateTime::fromSecsSinceEpoch(old ? *old : QDateTime::currentSecsSinceEpoch()).time();
+        workbook_->setProjectDate(QDateTime(date, time).toSecsSinceEpoch());
+        noteEdit();
+    });
+}
+
+// ---------------------------------------------------------------------------------------------
+// Files
+
+QByteArray ZOLDocument::dataOfType(const QString&) const {
+    const std::string xml = workbook_->getXMLString();
+    return QByteArray(xml.data(), static_cast<qsizetype>(xml.size()));
+}
+
+bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
+    const auto result = ZOLWorkbookReader::readWorkbookData(
+        std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
+    if (wrongFormat)
+        *wrongFormat = result.status == ZOLReadStatus::Refused;
+    if (!result.ok())
+        return false;
+    loadWorkbook(result.workbook);
+    return true;
+}
+
+bool ZOLDocument::readFromFile(const QString& path) {
+    const QString name = QFileInfo(path).fileName();
+    std::string error;
+    auto bytes = ZOLFileBytes::read(nativePath(path), ZOLSaxParser::kMaxDocumentBytes, &error);
+    if (!bytes) {
+        ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)), error, {"OK"});
+        return false;
+    }
+    const QByteArray data(bytes->data(), static_cast<qsizetype>(bytes->size()));
+    bool wrongFormat = false;
+    if (!readFromData(data, &wrongFormat)) {
+        if (wrongFormat)
+            ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)),
+                           "It is not a Zol Estimator workbook, or it is damaged.", {"OK"});
+        return false;
+    }
+    fileBytesAtSave_ = data;
+    cleanState_ = dataOfType();
+    lastAutosaved_ = cleanState_;
+    autosavedSinceSave_ = false;
+    recovery_.reset();
+    setFilePath(path);
+    setEdited(false);
+    return true;
+}
+
+bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes, bool reportFailure) {
+    std::string error;
+    if (ZOLAtomicFile::write(nativePath(path),
+                             std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
+                             &error))
+        return true;
+    if (reportFailure)
+        ZOLAlerts::run(
+            utf8(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName())),
+            error, {"OK"});
+    return false;
+}
+
+bool ZOLDocument::saveToFile(const QString& path) {
+    const QByteArray bytes = dataOfType();
+    if (!writeFile(path, bytes, true))
+        return false;
+    const QString canonical = QFileInfo(path).absoluteFilePath();
+    if (canonical != filePath_ && !filePath_.isEmpty() && autosavedSinceSave_)
+        restoreLastSaved(); // the old file goes back to what the user saved in it
+    fileBytesAtSave_ = bytes;
+    cleanState_ = bytes;
+    lastAutosaved_ = bytes;
+    autosavedSinceSave_ = false;
+    autosaveTimer_->stop();
+    recovery_.reset();
+    setFilePath(canonical);
+    setEdited(false);
+    return true;
+}
+
+bool ZOLDocument::save() {
+    if (filePath_.isEmpty())
+        return saveAs();
+    return saveToFile(filePath_);
+}
+
+bool ZOLDocument::saveAs() {
+    QString suggested = qs(workbook_->projectName()).trimmed();
+    if (suggested.isEmpty())
+        suggested = displayName();
+    suggested.replace('/', '-');
+    const QString path = ZOLFilePanels::saveFile(this, tr("Save Workbook"), "zol",
+                                                 QFileInfo(suggested).completeBaseName() + ".zol");
+    if (path.isEmpty())
+        return false;
+    return saveToFile(path);
+}
+
+void ZOLDocument::revertDocumentToSaved() {
+    if (filePath_.isEmpty() || !edited_)
+        return;
+    const QString message =
+        tr("Do you want to revert to the most recently saved version of the document “%1”?")
+            .arg(displayName());
+    if (ZOLAlerts::run(utf8(message), "Your current changes will be lost.", {"Revert", "Cancel"}) !=
+        0)
+        return;
+    if (!readFromData(fileBytesAtSave_))
+        return;
+    restoreLastSaved();
+    cleanState_ = dataOfType();
+    lastAutosaved_ = cleanState_;
+    setEdited(false);
+}
+
+void ZOLDocument::restoreLastSaved() {
+    if (!autosavedSinceSave_ || filePath_.isEmpty())
+        return;
+    if (writeFile(filePath_, fileBytesAtSave_, false))
+        autosavedSinceSave_ = false;
+}
+
+void ZOLDocument::setFilePath(const QString& path) {
+    filePath_ = path;
+    if (controller_ && !path.isEmpty())
+        controller_->recentFiles()->add(path);
+    if (revertAction_)
+        revertAction_->setEnabled(!filePath_.isEmpty() && edited_);
+    updateTitle();
+    emit fileChanged(path);
+}
+
+QString ZOLDocument::displayName() const {
+    if (!filePath_.isEmpty())
+        return QFileInfo(filePath_).fileName();
+    return untitledNumber_ <= 1 ? tr("Untitled") : tr("Untitled %1").arg(untitledNumber_);
+}
+
+void ZOLDocument::updateTitle() {
+    setWindowTitle(displayName() + QStringLiteral("[*]"));
+    setWindowFilePath(filePath_);
+    setWindowModified(edited_);
+}
+
+void ZOLDocument::setEdited(bool edited) {
+    if (revertAction_)
+        revertAction_->setEnabled(!filePath_.isEmpty() && edited);
+    if (edited == edited_)
+        return;
+    edited_ = edited;
+    setWindowModified(edited_);
+    emit editedChanged(edited_);
+}
+
+void ZOLDocument::noteEdit() {
+    const QByteArray now = dataOfType();
+    setEdited(now != cleanState_);
+    if (!edited_) {
+        // Back where the user saved: nothing of these edits should outlive the session.
+        autosaveTimer_->stop();
+        restoreLastSaved();
+        recovery_.reset();
+        lastAutosaved_ = now;
+        return;
+    }
+    if (now != lastAutosaved_)
+        startAutosaveTimer();
+}
+
+void ZOLDocument::startAutosaveTimer() {
+    // Not restarted by every keystroke, so steady typing is still saved within the delay.
+    if (!autosaveTimer_->isActive())
+        autosaveTimer_->start(ZOLSettingsKeys::autosaveDelaySeconds() * 1000);
+}
+
+void ZOLDocument::autosave() {
+    autosaveTimer_->stop();
+    if (!edited_)
+        return;
+    const QByteArray bytes = dataOfType();
+    if (bytes == lastAutosaved_)
+        return;
+    if (!filePath_.isEmpty()) {
+        if (writeFile(filePath_, bytes, false)) {
+            autosavedSinceSave_ = true;
+            lastAutosaved_ = bytes;
+        }
+        return;
+    }
+    if (!recovery_) {
+        ZOLRecoveryStore fallback;
+        recovery_ = controller_ ? controller_->recoveryStore().createSlot() : fallback.createSlot();
+    }
+    if (recovery_->write(bytes))
+        lastAutosaved_ = bytes;
+}
+
+bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
+    if (!slot)
+        return false;
+    const QByteArray bytes = slot->read();
+    {
+        // The reader's own alerts still show: a damaged recovery file is reported as such.
+        if (!readFromData(bytes))
+            return false;
+    }
+    recovery_ = std::move(slot);
+    cleanState_.clear(); // nothing of it was ever saved
+    lastAutosaved_ = bytes;
+    setEdited(true);
+    return true;
+}
+
+bool ZOLDocument::canClose() {
+    if (!edited_)
+        return true;
+    const QString message =
+        tr("Do you want to save the changes you made in the document “%1”?").arg(displayName());
+    const int answer =
+        ZOLAlerts::run(utf8(message), "Your changes will be lost if you don’t save them.",
+                       {"Save", "Don't Save", "Cancel"});
+    if (answer == 0)
+        return save();
+    if (answer == 1) {
+        restoreLastSaved();
+        recovery_.reset();
+        return true;
+    }
+    return false;
+}
+
+void ZOLDocument::closeEvent(QCloseEvent* event) {
+    if (!canClose()) {
+        event->ignore();
+        return;
+    }
+    autosaveTimer_->stop();
+    recovery_.reset();
+    event->accept();
+}
+
+// ---------------------------------------------------------------------------------------------
+// Printing
+
+ZOLReportRenderer* ZOLDocument::renderer() {
+    if (!renderer_)
+        renderer_ =
+            new ZOLReportRenderer(QString::fromStdString(ZOLPrintData::resourcesDirectory()), this);
+    return renderer_;
+}
+
+std::optional<std::string> ZOLDocument::reportFromPrintSettings(const QString& acceptTitle) {
+    ZOLPrintSettingsWindowController window(this);
+    window.setNumberOfWorksheets(static_cast<int32_t>(workbook_->worksheets().size()));
+    window.setAcceptTitle(acceptTitle);
+    window.exec();
+    if (!window.acceptChanges())
+        return std::nullopt;
+    const auto settings = window.getZolPrintSettings();
+    const auto all = settings.find("PrintAllWorksheets");
+    if (all != settings.end() && all->second)
+        return ZOLPrintData::getHTMLWithWorkbook(workbook_, settings);
+    return ZOLPrintData::getHTMLWithWorkbook(workbook_, selectedWorksheetIndex(), settings);
+}
+
+void ZOLDocument::printDocument() {
+    // One print job at a time: the printer of a job under way must not be replaced.
+    if (printing_)
+        return;
+    const auto report = reportFromPrintSettings(tr("&Print…"));
+    if (!report)
+        return;
+    // US Letter with no margins: the report's pages carry their own.
+    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer_->setPageSize(QPageSize(QPageSize::Letter));
+    printer_->setFullPage(true);
+    printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
+    printer_->setDocName(displayName());
+    QPrintDialog dialog(printer_.get(), this);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    printing_ = true;
+    renderer()->print(*report, printer_.get(), [this](bool ok, const QString& error) {
+        printing_ = false;
+        if (!ok)
+            ZOLAlerts::run("The report could not be printed.", utf8(error), {"OK"});
+    });
+}
+
+void ZOLDocument::exportPDF() {
+    const auto report = reportFromPrintSettings(tr("&Export…"));
+    if (!report)
+        return;
+    const QString path = ZOLFilePanels::saveFile(
+        this, tr("Export PDF"), "pdf", QFileInfo(displayName()).completeBaseName() + ".pdf");
+    if (path.isEmpty())
+        return;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QString error;
+    const bool written = renderer()->writePdf(*report, path, &error);
+    QApplication::restoreOverrideCursor();
+    if (!written)
+        ZOLAlerts::run(
+            utf8(tr("The PDF “%1” could not be written.").arg(QFileInfo(path).fileName())),
+            utf8(error), {"OK"});
+}
+
+// ---------------------------------------------------------------------------------------------
+// Menus
+
+void ZOLDocument::buildMenus() {
+    QMenu* file = menuBar()->addMenu(tr("&File"));
+    if (controller_) {
+        QAction* newAction =
+            file->addAction(tr("&New"), controller_, [this] { controller_->newDocument(); });
+        newAction->setShortcut(QKeySequence::New);
+        QAction* open = file->addAction(tr("&Open…"), controller_,
+                                        [this] { controller_->openWithPanel(this); });
+        open->setShortcut(QKeySequence::Open);
+        recentMenu_ = file->addMenu(tr("Open &Recent"));
+        connect(recentMenu_, &QMenu::aboutToShow, this,
+                [this] { controller_->recentFiles()->populate(recentMenu_); });
+        file->addSeparator();
+    }
+    QAction* close = file->addAction(tr("&Close"), this, &QWidget::close);
+    close->setShortcut(QKeySequence::Close);
+    QAction* saveAction = file->addAction(tr("&Save"), this, &ZOLDocument::save);
+    saveAction->setShortcut(QKeySequence::Save);
+    QAction* saveAsAction = file->addAction(tr("Save &As…"), this, &ZOLDocument::saveAs);
+    saveAsAction->setShortcut(QKeySequence::SaveAs);
+    revertAction_ =
+        file->addAction(tr("Re&vert to Saved"), this, &ZOLDocument::revertDocumentToSaved);
+    revertAction_->setEnabled(false);
+    file->addSeparator();
+    QAction* exportAction = file->addAction(tr("&Export PDF…"), this, &ZOLDocument::exportPDF);
+    exportAction->setShortcut(QKeySequence(tr("Ctrl+E")));
+    QAction* print = file->addAction(tr("&Print…"), this, &ZOLDocument::printDocument);
+    print->setShortcut(QKeySequence::Print);
+    if (controller_) {
+        file->addSeparator();
+        QAction* quit = file->addAction(tr("&Quit"), controller_, &ZOLDocumentController::quit);
+        quit->setShortcut(QKeySequence::Quit);
+        quit->setMenuRole(QAction::QuitRole);
+    }
+
+    QMenu* workbook = menuBar()->addMenu(tr("&Workbook"));
+    workbook->addAction(tr("&Add Worksheet…"), this, &ZOLDocument::addWorksheet);
+    workbook->addAction(tr("&Rename Worksheet…"), this, &ZOLDocument::renameWorksheet);
+    workbook->addAction(tr("&Delete Worksheet…"), this, &ZOLDocument::deleteWorksheet);
+    workbook->addSeparator();
+    QAction* pricing = workbook->addAction(tr("Edit &Pricing…"), this, &ZOLDocument::editPricing);
+    pricing->setShortcut(QKeySequence(tr("Ctrl+Shift+P")));
+    QAction* notesAction =
+        workbook->addAction(tr("Project &Notes…"), this, &ZOLDocument::editNotes);
+    notesAction->setShortcut(QKeySequence(tr("Ctrl+Shift+N")));
+
+    QMenu* help = menuBar()->addMenu(tr("&Help"));
+    help->addAction(tr("&Technical Bulletins"), this, &ZOLDocument::displayBulletins);
+}
