@@ -35,9 +35,11 @@ echo "zolest report -o OUT.pdf: $(timeit "$build/zolest" report "$workbook" -o "
 
 chromium=$(command -v chromium || command -v chromium-browser || true)
 if [ -n "$chromium" ]; then
+    # Chromium on a closed network: no background connections, a fresh profile each time.
     echo "chromium --headless --print-to-pdf (same HTML): $(timeit "$chromium" --headless \
-        --no-sandbox --disable-gpu --no-pdf-header-footer --print-to-pdf-no-header \
-        --print-to-pdf="$tmp/chromium.pdf" "file://$tmp/report.html")," \
+        --no-sandbox --disable-gpu --disable-quic --no-first-run --disable-background-networking \
+        --disable-component-update --disable-sync --user-data-dir="$tmp/profile" \
+        --no-pdf-header-footer --print-to-pdf="$tmp/chromium.pdf" "file://$tmp/report.html")," \
         "$(pages "$tmp/chromium.pdf") pages"
 else
     echo "chromium: not installed, no reference time"

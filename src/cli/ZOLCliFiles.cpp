@@ -3,9 +3,12 @@
 #include "cli/ZOLCliSupport.h"
 #include "io/ZOLAtomicFile.h"
 #include "io/ZOLFileBytes.h"
+#include "io/ZOLPriceFileReader.h"
 #include "io/ZOLReadCheck.h"
 #include "io/ZOLSaxParser.h"
+#include "io/ZOLTemplateReader.h"
 #include "io/ZOLWorkbookReader.h"
+#include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "platform/ZOLAlerts.h"
 
@@ -41,6 +44,27 @@ std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path) {
     }
     setExitCode(1);
     return nullptr;
+}
+
+bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,
+                  const std::string& templatePath) {
+    if (!pricesPath.empty()) {
+        const auto bytes = readFileForOpening(pricesPath);
+        if (!bytes || ZOLPriceFileReader::readPriceData(*bytes, *workbook.pricingData()) !=
+                          ZOLReadStatus::Read) {
+            setExitCode(1);
+            return false;
+        }
+    }
+    if (!templatePath.empty()) {
+        const auto bytes = readFileForOpening(templatePath);
+        if (!bytes ||
+            ZOLTemplateReader::readTemplateData(*bytes, workbook) != ZOLReadStatus::Read) {
+            setExitCode(1);
+            return false;
+        }
+    }
+    return true;
 }
 
 bool save(const std::string& path, const std::string& text) {

@@ -18,6 +18,12 @@ std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path);
 // is 1.
 std::optional<std::string> readFileForOpening(const std::string& path);
 
+// Loads a price file (.zp) into the workbook's price list, replacing it as the price list
+// window does, and a job-summary template (.zci) as the job summary screen does; an empty path
+// skips that file. False (alert on stderr, exit code 1) when one cannot be read.
+bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,
+                  const std::string& templatePath);
+
 // Saves the text atomically; on failure says why on stderr and sets the exit code to 1.
 bool save(const std::string& path, const std::string& text);
 

@@ -1,5 +1,10 @@
-// zolest report FILE [-o OUT.html|OUT.pdf] [--sections all|LIST] [--worksheet N]: the printed
-// report of a workbook, as the desktop application prints it.
+// zolest report FILE [-o OUT.html|OUT.pdf] [--sections all|LIST] [--worksheet N]
+//               [--prices FILE.zp] [--template FILE.zci]: the printed report of a workbook, as
+// the desktop application prints it.
+//
+// A workbook file's own prices sit behind the default list when it is opened, so a reopened job
+// prints at the default prices; --prices loads a price file as the price list window does, and
+// the job-summary lines are then worked out again, as the job summary screen would show them.
 //
 // The HTML comes from the core alone. The PDF needs the browser engine, which zolest does not
 // link (it stays a small tool without Qt): zolest hands the HTML to the helper zolest-render,
@@ -31,6 +36,8 @@ struct Options {
     std::string workbook;
     std::string output;
     std::string sections = "all";
+    std::string prices;
+    std::string jobTemplate;
     int32_t worksheetIndex = 0;
     bool oneWorksheet = false;
 };
@@ -205,6 +212,11 @@ void run(const Options& options) {
     const auto workbook = zolcli::openWorkbook(options.workbook);
     if (!workbook)
         return; // the alert is on stderr and the exit code set
+    if (!options.prices.empty() || !options.jobTemplate.empty()) {
+        if (!zolcli::loadJobFiles(*workbook, options.prices, options.jobTemplate))
+            return;
+        workbook->generateCustomItems();
+    }
 
     std::string html;
     if (options.oneWorksheet) {
@@ -257,6 +269,12 @@ zolcli::Registrar reg("report", [](CLI::App& root) {
         cmd->add_option("--worksheet", options->worksheetIndex,
                         "Only the worksheet at this index (0 is the first); without it every "
                         "worksheet prints");
+    cmd->add_option("--prices", options->prices,
+                    "Price the report with this price file (.zp), loaded as the price list "
+                    "window loads it; the job summary is worked out again with it");
+    cmd->add_option("--template", options->jobTemplate,
+                    "Start the job summary from this template (.zci), as the job summary "
+                    "screen loads it");
     cmd->callback([options, worksheet] {
         options->oneWorksheet = worksheet->count() > 0;
         run(*options);

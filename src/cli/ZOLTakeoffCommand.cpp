@@ -6,9 +6,6 @@
 #include "cli/ZOLEngineReport.h"
 #include "cli/ZOLWallReport.h"
 #include "io/ZOLFormat.h"
-#include "io/ZOLPriceFileReader.h"
-#include "io/ZOLReadStatus.h"
-#include "io/ZOLTemplateReader.h"
 #include "model/ZOLCustomItem.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
@@ -120,22 +117,8 @@ zolcli::Registrar reg("takeoff", [](CLI::App& root) {
         auto workbook = zolcli::openWorkbook(options->workbook);
         if (!workbook)
             return;
-        if (!options->prices.empty()) {
-            const auto bytes = zolcli::readFileForOpening(options->prices);
-            if (!bytes || ZOLPriceFileReader::readPriceData(*bytes, *workbook->pricingData()) !=
-                              ZOLReadStatus::Read) {
-                zolcli::setExitCode(1);
-                return;
-            }
-        }
-        if (!options->jobTemplate.empty()) {
-            const auto bytes = zolcli::readFileForOpening(options->jobTemplate);
-            if (!bytes ||
-                ZOLTemplateReader::readTemplateData(*bytes, *workbook) != ZOLReadStatus::Read) {
-                zolcli::setExitCode(1);
-                return;
-            }
-        }
+        if (!zolcli::loadJobFiles(*workbook, options->prices, options->jobTemplate))
+            return;
         workbook->generateCustomItems();
         if (options->json)
             zolcli::printJson(takeoffJson(*workbook));

@@ -141,3 +141,25 @@ TEST_F(ZOLReportCommand, PdfWithoutTheRendererSaysWhatIsMissing) {
     EXPECT_THAT(readFile(err), HasSubstr("zolest-render"));
     EXPECT_FALSE(fs::exists(pdf));
 }
+
+TEST_F(ZOLReportCommand, PriceFileReplacesTheShadowedPricesOfTheWorkbook) {
+    // Opened as it is, the job's own prices sit behind the default list and print as $0.00.
+    const std::string examples = std::string(ZOL_SOURCE_DIR) + "/examples/";
+    const std::string straight6 = "<td>6\" Straight Block</td>\n<td>162</td>\n<td>$";
+    CliResult out = runZolest({"report", kSample, "--sections", "summary"});
+    ASSERT_EQ(out.exitCode, 0) << out.err;
+    EXPECT_THAT(out.out, HasSubstr(straight6 + "0.00</td>\n"));
+
+    out = runZolest({"report", kSample, "--sections", "summary,jobsummary", "--prices",
+                     examples + "prices.zp", "--template", examples + "job-summary.zci"});
+    ASSERT_EQ(out.exitCode, 0) << out.err;
+    EXPECT_THAT(out.out, HasSubstr(straight6 + "4.35</td>\n"));
+    EXPECT_THAT(out.out, HasSubstr("Building permit"));
+
+    // A price file that cannot be read stops the report with the alert.
+    const fs::path target = dir_ / "report.html";
+    out = runZolest({"report", kSample, "--prices", kSample + ".missing", "-o", target.string()});
+    EXPECT_EQ(out.exitCode, 1);
+    EXPECT_THAT(out.err, HasSubstr("There was an error opening the file."));
+    EXPECT_FALSE(fs::exists(target));
+}
