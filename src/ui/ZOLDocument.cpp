@@ -37,6 +37,7 @@
 #include <QPageSize>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QScreen>
 #include <QScrollArea>
 #include <QTimer>
 #include <QUrl>
@@ -67,6 +68,7 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     : QMainWindow(parent), ui_(std::make_unique<Ui::ZOLDocument>()), controller_(controller),
       autosaveTimer_(new QTimer(this)) {
     ui_->setupUi(this);
+    fitToScreen();
     setAttribute(Qt::WA_DeleteOnClose, controller_ != nullptr);
     if (controller_)
         untitledNumber_ = controller_->nextUntitledNumber();
@@ -109,6 +111,14 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
 }
 
 ZOLDocument::~ZOLDocument() = default;
+
+void ZOLDocument::fitToScreen() {
+    // The window frame is not known before the window manager has drawn it; leave room for a
+    // title bar so that a 1366x768 laptop screen with a panel still shows the whole window.
+    constexpr int kTitleBar = 40;
+    if (const QScreen* screen = QGuiApplication::primaryScreen())
+        resize(size().boundedTo(screen->availableGeometry().size() - QSize(0, kTitleBar)));
+}
 
 // ---------------------------------------------------------------------------------------------
 // Screens
@@ -705,13 +715,18 @@ void ZOLDocument::buildMenus() {
     QAction* saveAction = file->addAction(tr("&Save"), this, &ZOLDocument::save);
     saveAction->setShortcut(QKeySequence::Save);
     QAction* saveAsAction = file->addAction(tr("Save &As…"), this, &ZOLDocument::saveAs);
-    saveAsAction->setShortcut(QKeySequence::SaveAs);
+    // Some desktops define no Save As keys; users still expect Ctrl+Shift+S.
+    saveAsAction->setShortcut(QKeySequence(QKeySequence::SaveAs).isEmpty()
+                                  ? QKeySequence(tr("Ctrl+Shift+S"))
+                                  : QKeySequence(QKeySequence::SaveAs));
     revertAction_ =
         file->addAction(tr("Re&vert to Saved"), this, &ZOLDocument::revertDocumentToSaved);
     revertAction_->setEnabled(false);
     file->addSeparator();
     QAction* exportAction = file->addAction(tr("&Export PDF…"), this, &ZOLDocument::exportPDF);
-    exportAction->setShortcut(QKeySequence(tr("Ctrl+E")));
+    // Not Ctrl+E: on Linux a text field takes that for "end of line", so it would never reach
+    // the menu while the user is typing in a field.
+    exportAction->setShortcut(QKeySequence(tr("Ctrl+Shift+E")));
     QAction* print = file->addAction(tr("&Print…"), this, &ZOLDocument::printDocument);
     print->setShortcut(QKeySequence::Print);
     if (controller_) {

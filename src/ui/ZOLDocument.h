@@ -111,6 +111,7 @@ private:
         const QString& title, const char* scrollViewName, const char* tabName,
         std::function<void(Controller*, const std::shared_ptr<ZOLWorksheet>&, const std::string&)>
             hand);
+    void fitToScreen();
     void installScreens();
     void buildMenus();
     void connectHeader();

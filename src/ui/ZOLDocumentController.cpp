@@ -103,8 +103,9 @@ int ZOLDocumentController::offerRecovery() {
             ? "Zol Estimator quit unexpectedly while an untitled workbook had unsaved changes."
             : "Zol Estimator quit unexpectedly while " + std::to_string(orphans.size()) +
                   " untitled workbooks had unsaved changes.";
-    const int answer = ZOLAlerts::run(message, "Reopen them to keep your work, or discard them.",
-                                      {"Reopen", "Discard"});
+    const char* advice = orphans.size() == 1 ? "Reopen it to keep your work, or discard it."
+                                             : "Reopen them to keep your work, or discard them.";
+    const int answer = ZOLAlerts::run(message, advice, {"Reopen", "Discard"});
     if (answer != 0)
         return 0; // the slots remove their files as they go
     int reopened = 0;

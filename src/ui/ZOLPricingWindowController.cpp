@@ -41,6 +41,19 @@ public:
         return edit;
     }
 };
+// Whether an earlier line of the list answers the look-ups of `items[index]` first: a workbook
+// file's prices come after the list every workbook starts with, so after reopening a priced
+// workbook its prices sit below lines of the same parts.
+bool shadowed(const std::vector<std::shared_ptr<ZOLPriceItem>>& items, size_t index) {
+    const auto& item = items[index];
+    // Extenders, HV clips and calora sticks are found by type whatever their size.
+    const bool anySize = item->partType() >= 12 && item->partType() <= 14;
+    for (size_t earlier = 0; earlier < index; ++earlier)
+        if (items[earlier] && items[earlier]->partType() == item->partType() &&
+            (anySize || items[earlier]->partSize() == item->partSize()))
+            return true;
+    return false;
+}
 } // namespace
 
 ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricing> pricingData,
@@ -86,6 +99,11 @@ void ZOLPricingWindowController::loadData() {
         price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
         price->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         table->setItem(row, kPriceColumn, price);
+        if (shadowed(items, i))
+            for (QTableWidgetItem* cell : {part, price}) {
+                cell->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
+                cell->setToolTip(tr("Not used: a line above sets the price of this part."));
+            }
     }
     loading_ = false;
 }

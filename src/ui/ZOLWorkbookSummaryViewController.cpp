@@ -107,6 +107,9 @@ ZOLWorkbookSummaryViewController::ZOLWorkbookSummaryViewController(QWidget* pare
     QHeaderView* header = ui_->summaryTable->horizontalHeader();
     header->setSectionResizeMode(0, QHeaderView::Stretch);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // Room for five-figure money and weights, so the numbers do not crowd against each other.
+    header->setMinimumSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("00000.00 lbs")) +
+                                  24);
     ui_->summaryTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     for (int column = 1; column < ui_->summaryTable->columnCount(); ++column) {
         header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
