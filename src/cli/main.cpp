@@ -4,6 +4,19 @@
 #include "platform/ZOLAlerts.h"
 
 #include <iostream>
+#include <string>
+
+namespace {
+// "zolest calc wall" for a mistake inside `zolest calc wall`: where the right options are listed.
+std::string commandPath(CLI::App& app) {
+    std::string path = app.get_name();
+    for (CLI::App* command = &app; !command->get_subcommands().empty();) {
+        command = command->get_subcommands().front();
+        path += " " + command->get_name();
+    }
+    return path;
+}
+} // namespace
 
 int main(int argc, char** argv) {
     // Alerts the core raises (a file that cannot be read, a duplicate worksheet) go to stderr.
@@ -22,7 +35,7 @@ int main(int argc, char** argv) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
         std::cerr << "zolest: " << e.what() << "\n";
-        std::cerr << "Run 'zolest --help' for usage.\n";
+        std::cerr << "Run '" << commandPath(app) << " --help' for usage.\n";
         return 2;
     }
     return zolcli::exitCode();

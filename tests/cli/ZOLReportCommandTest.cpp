@@ -114,6 +114,9 @@ TEST_F(ZOLReportCommand, RefusesWhatItCannotDo) {
         EXPECT_FALSE(out.err.empty());
     }
     EXPECT_FALSE(fs::exists(target));
+    // A mistaken option points at the help of the command it was given to.
+    EXPECT_THAT(runZolest({"report", kSample, "--bogus"}).err,
+                HasSubstr("Run 'zolest report --help' for usage."));
 
     // A file that cannot be read: the alert on stderr, exit code 1.
     const fs::path junk = dir_ / "junk.zol";
