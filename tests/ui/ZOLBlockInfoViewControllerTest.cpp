@@ -83,21 +83,6 @@ private slots:
         screen->loadValues();
         QCOMPARE(waste()->currentIndex(), -1);
     }
-
-    void screenshot() {
-        const QByteArray dir = qgetenv("ZOL_SCREENSHOT_DIR");
-        if (dir.isEmpty())
-            QSKIP("set ZOL_SCREENSHOT_DIR to save a picture of the screen");
-        wall->setWallLength(120.5);
-        wall->setOutsideCornerLocations(4);
-        wall->setTBlockLocations(1);
-        wall->setUseHalfBlock(true);
-        wall->setLinearFeetBuck(58.68);
-        wall->setCaloraStickLayers(1);
-        screen->resize(1340, 600);
-        screen->loadValues();
-        QVERIFY(screen->grab().save(QString::fromUtf8(dir) + "/block-info.png"));
-    }
 };
 
 QTEST_MAIN(ZOLBlockInfoViewControllerTest)

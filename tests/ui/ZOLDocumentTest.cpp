@@ -37,6 +37,10 @@ namespace {
 const std::string kLongDuplicate = "A worksheet with that name already exists. Please try again "
                                    "with a different worksheet name.";
 
+template <class Screen> Screen* screen(const ZOLDocument& document) {
+    return qobject_cast<Screen*>(document.screenNamed(Screen::staticMetaObject.className()));
+}
+
 std::vector<std::string> names(const ZOLWorkbook& workbook) {
     std::vector<std::string> out;
     for (const auto& sheet : workbook.worksheets())
@@ -101,20 +105,15 @@ private slots:
                                       "Workbook Summary"}));
 
         const auto sheet = document.workbook()->worksheets()[0];
-        auto* wallEntry = qobject_cast<ZOLWallEntryViewController*>(
-            document.screenNamed("ZOLWallEntryViewController"));
-        auto* openings = qobject_cast<ZOLOpeningsEntryViewController*>(
-            document.screenNamed("ZOLOpeningsEntryViewController"));
-        auto* blockInfo = qobject_cast<ZOLBlockInfoViewController*>(
-            document.screenNamed("ZOLBlockInfoViewController"));
-        auto* wallInfo = qobject_cast<ZOLWallInfoViewController*>(
-            document.screenNamed("ZOLWallInfoViewController"));
+        auto* wallEntry = screen<ZOLWallEntryViewController>(document);
+        auto* openings = screen<ZOLOpeningsEntryViewController>(document);
+        auto* blockInfo = screen<ZOLBlockInfoViewController>(document);
+        auto* wallInfo = screen<ZOLWallInfoViewController>(document);
         QVERIFY(wallEntry && openings && blockInfo && wallInfo);
-        QCOMPARE(wallEntry->wallData(), sheet->wallData());
+        for (const auto& wall : {wallEntry->wallData(), openings->wallData(), blockInfo->wallData(),
+                                 wallInfo->wallData()})
+            QCOMPARE(wall, sheet->wallData());
         QCOMPARE(openings->openingData(), sheet->openingData());
-        QCOMPARE(openings->wallData(), sheet->wallData());
-        QCOMPARE(blockInfo->wallData(), sheet->wallData());
-        QCOMPARE(wallInfo->wallData(), sheet->wallData());
         QCOMPARE(document.workbookSummary()->workbook(), document.workbook());
 
         // Choosing another worksheet hands its records to every screen.
@@ -223,10 +222,7 @@ private slots:
         QCOMPARE(alerts->alerts.size(), asked + 1);
         QCOMPARE(names(*document.workbook()), std::vector<std::string>{"Worksheet 1"});
         // The screens still hold the deleted worksheet's records.
-        QCOMPARE(qobject_cast<ZOLWallEntryViewController*>(
-                     document.screenNamed("ZOLWallEntryViewController"))
-                     ->wallData(),
-                 garageWall);
+        QCOMPARE(screen<ZOLWallEntryViewController>(document)->wallData(), garageWall);
 
         // Choosing a worksheet brings the selector up to date.
         document.worksheetSelection()->setCurrentIndex(0);
@@ -254,17 +250,19 @@ private slots:
 
     void headerFieldsWriteEveryKeystroke() {
         ZOLDocument document;
-        auto* name = document.findChild<QLineEdit*>("projectName");
-        QTest::keyClicks(name, "Lake");
-        QCOMPARE(document.workbook()->projectName().value_or(""), std::string("Lake"));
-        QTest::keyClick(name, Qt::Key_Backspace);
-        QCOMPARE(document.workbook()->projectName().value_or(""), std::string("Lak"));
-        QTest::keyClicks(document.findChild<QLineEdit*>("clientName"), "Smith & Sons");
-        QCOMPARE(document.workbook()->clientName().value_or(""), std::string("Smith & Sons"));
-        QTest::keyClicks(document.findChild<QLineEdit*>("projectVersion"), "2");
-        QTest::keyClicks(document.findChild<QLineEdit*>("distributorName"), "Block Supply");
-        QCOMPARE(document.workbook()->projectVersion().value_or(""), std::string("2"));
-        QCOMPARE(document.workbook()->distributorName().value_or(""), std::string("Block Supply"));
+        const ZOLWorkbook& book = *document.workbook();
+        const std::pair<const char*, const std::optional<std::string>& (ZOLWorkbook::*)() const>
+            fields[] = {{"projectName", &ZOLWorkbook::projectName},
+                        {"clientName", &ZOLWorkbook::clientName},
+                        {"projectVersion", &ZOLWorkbook::projectVersion},
+                        {"distributorName", &ZOLWorkbook::distributorName}};
+        for (const auto& [name, read] : fields) {
+            auto* field = document.findChild<QLineEdit*>(name);
+            QTest::keyClicks(field, "Smith & Sons");
+            QCOMPARE((book.*read)().value_or(""), std::string("Smith & Sons"));
+            QTest::keyClick(field, Qt::Key_Backspace);
+            QCOMPARE((book.*read)().value_or(""), std::string("Smith & Son"));
+        }
 
         // A new day keeps the time of day.
         const int64_t before = document.workbook()->projectDate().value_or(0);

@@ -188,25 +188,6 @@ private slots:
         button("removeOpening")->click();
         QCOMPARE(table()->rowCount(), 0);
     }
-
-    void screenshot() {
-        const QByteArray dir = qgetenv("ZOL_SCREENSHOT_DIR");
-        if (dir.isEmpty())
-            QSKIP("set ZOL_SCREENSHOT_DIR to save a picture of the screen");
-        const double sizes[][3] = {{2, 36, 48}, {1, 72, 80}, {3, 24, 36}, {1, 96, 84}};
-        for (const auto& s : sizes) {
-            auto o = std::make_shared<ZOLOpening>();
-            o->setNumberOfOpenings(static_cast<int32_t>(s[0]));
-            o->setOpeningWidth(s[1]);
-            o->setOpeningHeight(s[2]);
-            openings->addOpeningObject(o);
-        }
-        openings->openingList()[1]->setUseSill(false);
-        screen->resize(1340, 600);
-        screen->loadValues();
-        table()->selectRow(1);
-        QVERIFY(screen->grab().save(QString::fromUtf8(dir) + "/openings.png"));
-    }
 };
 
 QTEST_MAIN(ZOLOpeningsEntryViewControllerTest)

@@ -64,6 +64,21 @@ private slots:
         QCOMPARE(pricing->priceItems()[1]->price(), 3.0);
     }
 
+    void linesThatALineAboveOverridesAreGreyed() {
+        // As after reopening a priced workbook: its prices follow the list it starts with.
+        auto pricing = std::make_shared<ZOLPricing>();
+        pricing->addPriceItem(std::make_shared<ZOLPriceItem>(8, 0, 23.40));
+        pricing->addPriceItem(std::make_shared<ZOLPriceItem>(4, 13, 0.09)); // clips: any size
+        pricing->addPriceItem(std::make_shared<ZOLPriceItem>(8, 10, 5.0));  // no 8" radius above
+        ZOLPricingWindowController window(pricing);
+        auto* table = window.findChild<QTableWidget*>("priceTable");
+        QStringList marked;
+        for (int row = 0; row < table->rowCount(); ++row)
+            if (!table->item(row, 1)->toolTip().isEmpty())
+                marked << table->item(row, 0)->text();
+        QCOMPARE(marked, QStringList({"8\" Straight Block", "Zol Block HV Clips"}));
+    }
+
     void priceFilesCarryTheListAcross() {
         QTemporaryDir dir;
         ScopedAlertRecorder alerts;

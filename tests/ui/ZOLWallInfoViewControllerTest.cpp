@@ -87,23 +87,6 @@ private slots:
         QCOMPARE(text("netSqFt"), QString("840.05"));
         QCOMPARE(text("bracing"), QString("17"));
     }
-
-    void screenshot() {
-        const QByteArray dir = qgetenv("ZOL_SCREENSHOT_DIR");
-        if (dir.isEmpty())
-            QSKIP("set ZOL_SCREENSHOT_DIR to save a picture of the screen");
-        wall->setWallLength(120.5);
-        wall->setOutsideCornerLocations(4);
-        wall->setInsideCornerLocations(2);
-        wall->setTBlockLocations(1);
-        wall->setLinearFeetCurb(12.0);
-        wall->setSqftOpenings(62.5);
-        wall->setLinearFeetBuck(58.68);
-        screen->setWorksheetName("North Elevation");
-        screen->resize(1340, 600);
-        screen->loadValues();
-        QVERIFY(screen->grab().save(QString::fromUtf8(dir) + "/wall-info.png"));
-    }
 };
 
 QTEST_MAIN(ZOLWallInfoViewControllerTest)
