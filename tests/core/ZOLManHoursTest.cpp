@@ -3,6 +3,7 @@
 #include "model/ZOLManHours.h"
 #include "calc/ZOLManHourCalculator.h"
 #include "support/GoldenFile.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
@@ -21,16 +22,9 @@ struct Band {
 };
 
 // Codes 70 to 80 as the file reader hands them over.
-ZOLManHours readFilled() {
-    const std::pair<int32_t, const char*> values[] = {
-        {70, "2450.5"}, {71, "14"},       {72, "180.25"}, {73, "36"},
-        {74, "10.667"}, {75, "AboveAvg"}, {76, "High"},   {77, "Ideal"},
-        {78, "4"},      {79, "32.75"},    {80, "4"}};
-    ZOLManHours h;
-    for (const auto& [code, text] : values)
-        h.setValue(text, code);
-    return h;
-}
+const CodeTexts kFilled = {{70, "2450.5"}, {71, "14"},       {72, "180.25"}, {73, "36"},
+                           {74, "10.667"}, {75, "AboveAvg"}, {76, "High"},   {77, "Ideal"},
+                           {78, "4"},      {79, "32.75"},    {80, "4"}};
 } // namespace
 
 TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
@@ -46,7 +40,7 @@ TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
     EXPECT_EQ(h.getTotalProjectRating(), 27);
     EXPECT_EQ(h.getManHourRate(), 0.08);
     EXPECT_EQ(h.getHoursToComplete() + h.getDaysToComplete(), 0.0);
-    ZOLManHours cleared = readFilled();
+    ZOLManHours cleared = readRecord<ZOLManHours>(kFilled);
     cleared.clear();
     EXPECT_EQ(cleared.getXMLString(), h.getXMLString());
 }
@@ -182,12 +176,9 @@ TEST(ZOLManHourCalculator, JudgementListsConvertBetweenIndexRatingAndWord) {
 }
 
 TEST(ZOLManHours, WritesAndReadsJudgementsAsTheFilesWords) {
-    ZOLManHours filled = readFilled();
-    for (int32_t code : {0, 5, 11, 23, 29, 42, 43, 44, 46, 69, 81, 84, -1, kMax, kMin}) {
-        filled.setValue("77", code); // codes of other records change nothing
-        filled.setValue("Average", code);
-    }
+    const ZOLManHours filled = readRecord<ZOLManHours>(kFilled);
     EXPECT_EQ(filled.getXMLString(), goldenFile("xml/manhours-filled.xml"));
+    expectOtherCodesIgnored(filled, 70, 80);
     ZOLManHours h;
     h.setRebarComplexity(4);
     h.setCrewExperience(3);

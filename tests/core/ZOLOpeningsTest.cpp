@@ -1,6 +1,7 @@
 // Openings: per-row area, perimeter and buck, the list's totals and its file element.
 #include "model/ZOLOpenings.h"
 #include "calc/ZOLOpeningsCalculator.h"
+#include "support/GoldenFile.h"
 
 #include <gtest/gtest.h>
 
@@ -62,53 +63,29 @@ TEST(ZOLOpenings, ListTotalsAndAppending) {
     EXPECT_TRUE(openings.openingList().empty());
 }
 
-TEST(ZOLOpenings, FileElements) {
+TEST(ZOLOpenings, FileElementsAndRowCodes) {
     ZOLOpenings openings;
     EXPECT_EQ(openings.getXMLString(), "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n"
                                        "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n");
-    auto first = row(2, 36, 48);
-    auto second = row(1, 72.5, 80, false);
-    second->setRowNumber(1);
-    openings.setOpeningList({first, second});
-    EXPECT_EQ(openings.getXMLString(), "\t\t\t<OpeningData>\n"
-                                       "\t\t\t\t<OpeningList>\n"
-                                       "\t\t\t\t\t<Opening>\n"
-                                       "\t\t\t\t\t\t<RowNumber>0</RowNumber>\n"
-                                       "\t\t\t\t\t\t<NumberOfOpenings>2</NumberOfOpenings>\n"
-                                       "\t\t\t\t\t\t<OpeningWidth>36.000000</OpeningWidth>\n"
-                                       "\t\t\t\t\t\t<OpeningHeight>48.000000</OpeningHeight>\n"
-                                       "\t\t\t\t\t\t<UseSill>true</UseSill>\n"
-                                       "\t\t\t\t\t</Opening>\n"
-                                       "\t\t\t\t\t<Opening>\n"
-                                       "\t\t\t\t\t\t<RowNumber>1</RowNumber>\n"
-                                       "\t\t\t\t\t\t<NumberOfOpenings>1</NumberOfOpenings>\n"
-                                       "\t\t\t\t\t\t<OpeningWidth>72.500000</OpeningWidth>\n"
-                                       "\t\t\t\t\t\t<OpeningHeight>80.000000</OpeningHeight>\n"
-                                       "\t\t\t\t\t\t<UseSill>false</UseSill>\n"
-                                       "\t\t\t\t\t</Opening>\n"
-                                       "\t\t\t\t</OpeningList>\n"
-                                       "\t\t\t</OpeningData>\n");
-}
-
-TEST(ZOLOpenings, RowValuesReadBack) {
-    ZOLOpening opening;
-    opening.setValue(std::string("3"), 24);
-    opening.setValue(std::string(" 4 windows"), 25);
-    opening.setValue(std::string("36.5"), 26);
-    opening.setValue(std::string("48in"), 27);
-    opening.setValue(std::string("false"), 28);
-    EXPECT_EQ(opening.rowNumber(), 3);
-    EXPECT_EQ(opening.numberOfOpenings(), 4);
-    EXPECT_EQ(opening.openingWidth(), 36.5);
-    EXPECT_EQ(opening.openingHeight(), 48.0);
-    EXPECT_FALSE(opening.useSill());
-    const std::string xml = opening.getXMLString();
+    // Two rows read code by code (24 to 28) as the file reader hands them over.
+    const char* rows[2][5] = {{"0", "2", "36", "48", "true"},
+                              {" 1 row", "1 window", "72.5", "80in", "false"}};
+    std::vector<std::shared_ptr<ZOLOpening>> list;
+    for (const auto& texts : rows) {
+        list.push_back(std::make_shared<ZOLOpening>());
+        for (int32_t code = 24; code <= 28; ++code)
+            list.back()->setValue(std::string(texts[code - 24]), code);
+    }
     for (int32_t foreign : {23, 29, 45, -1})
-        opening.setValue(std::string("9"), foreign);
-    EXPECT_EQ(opening.getXMLString(), xml);
+        list[1]->setValue(std::string("9"), foreign);
+    openings.setOpeningList(list);
+    expectGoldenFile("xml/openings-filled.xml", openings.getXMLString());
+
+    ZOLOpening opening;
+    opening.setValue(std::string("4"), 25);
     opening.setValue(std::nullopt, 28);
-    opening.setValue(std::nullopt, 25);
     EXPECT_FALSE(opening.useSill());
+    opening.setValue(std::nullopt, 25);
     EXPECT_EQ(opening.numberOfOpenings(), 0);
     opening.setValue(std::string("1"), 28);
     EXPECT_TRUE(opening.useSill());
