@@ -10,28 +10,29 @@
 #include <clocale>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace {
 constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
 constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
 } // namespace
 
-TEST(ZOLNumeric, DoubleToIntIsDefinedForEveryInput) {
-    EXPECT_EQ(ZOLNumeric::toInt(2.9), 2);
-    EXPECT_EQ(ZOLNumeric::toInt(-2.9), -2);
-    EXPECT_EQ(ZOLNumeric::toInt(std::nan("")), 0);
-    EXPECT_EQ(ZOLNumeric::toInt(INFINITY), kMax);
-    EXPECT_EQ(ZOLNumeric::toInt(-INFINITY), kMin);
-    EXPECT_EQ(ZOLNumeric::toInt(1e300), kMax);
-    EXPECT_EQ(ZOLNumeric::toInt(2147483647.5), kMax);
-    EXPECT_EQ(ZOLNumeric::toInt(-2147483648.9), kMin);
+TEST(ZOLNumeric, DoubleToIntSaturatesAndIntegerArithmeticWraps) {
+    const std::pair<double, int32_t> truncated[] = {{2.9, 2},
+                                                    {-2.9, -2},
+                                                    {NAN, 0},
+                                                    {INFINITY, kMax},
+                                                    {-INFINITY, kMin},
+                                                    {1e300, kMax},
+                                                    {2147483647.5, kMax},
+                                                    {-2147483648.9, kMin}};
+    for (const auto& [value, result] : truncated)
+        EXPECT_EQ(ZOLNumeric::toInt(value), result) << value;
     EXPECT_EQ(ZOLNumeric::ceilToInt(1.0000001), 2);
     EXPECT_EQ(ZOLNumeric::ceilToInt(-1.5), -1);
     EXPECT_EQ(ZOLNumeric::floorToInt(-1.5), -2);
-    EXPECT_EQ(ZOLNumeric::ceilToInt(std::nan("")), 0);
-}
+    EXPECT_EQ(ZOLNumeric::ceilToInt(NAN), 0);
 
-TEST(ZOLNumeric, IntegerArithmeticWrapsInsteadOfOverflowing) {
     EXPECT_EQ(ZOLNumeric::wrapAdd(kMax, 1), kMin);
     EXPECT_EQ(ZOLNumeric::wrapSub(kMin, 1), kMax);
     EXPECT_EQ(ZOLNumeric::wrapMul(65536, 65536), 0);
@@ -43,36 +44,27 @@ TEST(ZOLNumeric, IntegerArithmeticWrapsInsteadOfOverflowing) {
     EXPECT_EQ(ZOLNumeric::wrapMod(kMin, -1), 0);
 }
 
-TEST(ZOLText, LeadingIntegerReadsWhatTheTextStartsWith) {
-    EXPECT_EQ(ZOLText::leadingInt("42"), 42);
-    EXPECT_EQ(ZOLText::leadingInt("  -17 corners"), -17);
-    EXPECT_EQ(ZOLText::leadingInt("+8"), 8);
-    EXPECT_EQ(ZOLText::leadingInt("12.9"), 12);
-    EXPECT_EQ(ZOLText::leadingInt("abc"), 0);
-    EXPECT_EQ(ZOLText::leadingInt(""), 0);
-    EXPECT_EQ(ZOLText::leadingInt("- 5"), 0);
-    EXPECT_EQ(ZOLText::leadingInt("99999999999999999999"), kMax);
-    EXPECT_EQ(ZOLText::leadingInt("-99999999999999999999"), kMin);
+TEST(ZOLText, LeadingNumbersReadWhatTheTextStartsWith) {
+    const std::pair<const char*, int32_t> ints[] = {{"42", 42},
+                                                    {"  -17 corners", -17},
+                                                    {"+8", 8},
+                                                    {"12.9", 12},
+                                                    {"abc", 0},
+                                                    {"", 0},
+                                                    {"- 5", 0},
+                                                    {"99999999999999999999", kMax},
+                                                    {"-99999999999999999999", kMin}};
+    for (const auto& [text, value] : ints)
+        EXPECT_EQ(ZOLText::leadingInt(text), value) << text;
     EXPECT_EQ(ZOLText::leadingInt(std::optional<std::string>()), 0);
-}
-
-TEST(ZOLText, LeadingDoubleTakesPlainDecimalsOnly) {
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("12.500000"), 12.5);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble(" -1.5ft"), -1.5);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble(".5"), 0.5);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("5."), 5.0);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("1.2.3"), 1.2);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e3"), 2000.0);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e"), 2.0);
-    EXPECT_DOUBLE_EQ(ZOLText::leadingDouble("2e+x"), 2.0);
-    EXPECT_EQ(ZOLText::leadingDouble("0x1p3"), 0.0);
-    EXPECT_EQ(ZOLText::leadingDouble("inf"), 0.0);
-    EXPECT_EQ(ZOLText::leadingDouble("nan"), 0.0);
-    EXPECT_EQ(ZOLText::leadingDouble("."), 0.0);
-    EXPECT_EQ(ZOLText::leadingDouble("true"), 0.0);
-    EXPECT_TRUE(std::isinf(ZOLText::leadingDouble("1e999")));
-    EXPECT_TRUE(std::isinf(ZOLText::leadingDouble("-1e999")));
-    EXPECT_EQ(ZOLText::leadingDouble("1e-999"), 0.0);
+    // Plain decimals only: no hexadecimal, no "inf" or "nan" words.
+    const std::pair<const char*, double> doubles[] = {
+        {"12.500000", 12.5}, {" -1.5ft", -1.5},   {".5", 0.5},           {"5.", 5.0},
+        {"1.2.3", 1.2},      {"2e3", 2000.0},     {"2e", 2.0},           {"2e+x", 2.0},
+        {"0x1p3", 0.0},      {"inf", 0.0},        {"nan", 0.0},          {".", 0.0},
+        {"true", 0.0},       {"1e999", INFINITY}, {"-1e999", -INFINITY}, {"1e-999", 0.0}};
+    for (const auto& [text, value] : doubles)
+        EXPECT_EQ(ZOLText::leadingDouble(text), value) << text;
 }
 
 TEST(ZOLText, BooleanTextFollowsTheFirstCharacter) {
@@ -84,13 +76,11 @@ TEST(ZOLText, BooleanTextFollowsTheFirstCharacter) {
 
 TEST(ZOLText, EntryFieldKeystrokeRule) {
     EXPECT_EQ(ZOLText::entryFieldText(""), std::nullopt);
-    EXPECT_EQ(ZOLText::entryFieldText("12a"), "12");
-    EXPECT_EQ(ZOLText::entryFieldText("a"), "0");
-    EXPECT_EQ(ZOLText::entryFieldText("1.2.3"), "1.2.3");
-    EXPECT_EQ(ZOLText::entryFieldText("-3"), "-3");
-    EXPECT_EQ(ZOLText::entryFieldText("12.5"), "12.5");
-    EXPECT_EQ(ZOLText::entryFieldText("-3x"), "3");
-    EXPECT_EQ(ZOLText::entryFieldText(" 4"), "4");
+    const std::pair<const char*, const char*> cleaned[] = {
+        {"12a", "12"},    {"a", "0"},   {"1.2.3", "1.2.3"}, {"-3", "-3"},
+        {"12.5", "12.5"}, {"-3x", "3"}, {" 4", "4"}};
+    for (const auto& [typed, kept] : cleaned)
+        EXPECT_EQ(ZOLText::entryFieldText(typed), kept) << typed;
     EXPECT_FALSE(ZOLText::isNumber("-"));
     EXPECT_FALSE(ZOLText::isNumber("."));
     EXPECT_TRUE(ZOLText::isNumber(".5"));
