@@ -15,8 +15,16 @@
 #include <iostream>
 
 namespace zolcli {
+namespace {
 
-std::optional<std::string> readFileForOpening(const std::string& path) {
+// The readers alert without naming the file: the path follows their alert.
+bool failed(const std::string& path) {
+    std::cerr << path << "\n";
+    setExitCode(1);
+    return false;
+}
+
+std::optional<std::string> readBytes(const std::string& path) {
     std::string reason;
     auto bytes = ZOLFileBytes::read(path, ZOLSaxParser::kMaxDocumentBytes, &reason);
     if (!bytes) {
@@ -26,45 +34,43 @@ std::optional<std::string> readFileForOpening(const std::string& path) {
     return bytes;
 }
 
+} // namespace
+
 std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path) {
-    const auto bytes = readFileForOpening(path);
+    const auto bytes = readBytes(path);
     if (!bytes)
         return nullptr;
     const auto result = ZOLWorkbookReader::readWorkbookData(*bytes);
-    switch (result.status) {
-    case ZOLReadStatus::Read:
+    if (result.ok() && !result.noWorkbookElement)
         return result.workbook;
-    case ZOLReadStatus::Refused:
-        // The application reports this through the system's own "could not be opened" error.
-        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, path, {"OK"});
-        break;
-    case ZOLReadStatus::ParseError:
-        // The reader has shown its alert.
-        break;
-    }
-    setExitCode(1);
+    // The application reports refused bytes through the system's own "could not be opened"
+    // error; the reader has alerted in the other cases.
+    if (result.status == ZOLReadStatus::Refused)
+        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
+    failed(path);
     return nullptr;
+}
+
+bool openPrices(const std::string& path, ZOLPricing& pricing) {
+    const auto bytes = readBytes(path);
+    if (!bytes)
+        return false;
+    return ZOLPriceFileReader::readPriceData(*bytes, pricing) == ZOLReadStatus::Read ||
+           failed(path);
+}
+
+bool openTemplate(const std::string& path, ZOLWorkbook& workbook) {
+    const auto bytes = readBytes(path);
+    if (!bytes)
+        return false;
+    return ZOLTemplateReader::readTemplateData(*bytes, workbook) == ZOLReadStatus::Read ||
+           failed(path);
 }
 
 bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,
                   const std::string& templatePath) {
-    if (!pricesPath.empty()) {
-        const auto bytes = readFileForOpening(pricesPath);
-        if (!bytes || ZOLPriceFileReader::readPriceData(*bytes, *workbook.pricingData()) !=
-                          ZOLReadStatus::Read) {
-            setExitCode(1);
-            return false;
-        }
-    }
-    if (!templatePath.empty()) {
-        const auto bytes = readFileForOpening(templatePath);
-        if (!bytes ||
-            ZOLTemplateReader::readTemplateData(*bytes, workbook) != ZOLReadStatus::Read) {
-            setExitCode(1);
-            return false;
-        }
-    }
-    return true;
+    return (pricesPath.empty() || openPrices(pricesPath, *workbook.pricingData())) &&
+           (templatePath.empty() || openTemplate(templatePath, workbook));
 }
 
 bool save(const std::string& path, const std::string& text) {

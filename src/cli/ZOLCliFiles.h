@@ -1,22 +1,26 @@
 #pragma once
 // Opening and saving files for zolest's file commands, the way the application does it: the
-// same open check and readers, the same alerts (printed on stderr), and atomic saves.
+// same open check and readers, the same alerts (printed on stderr), and atomic saves. Every
+// alert about a file is followed by the file's path, since one command may open several.
 #include <memory>
-#include <optional>
 #include <string>
 
+class ZOLPricing;
 class ZOLWorkbook;
 
 namespace zolcli {
 
 // Reads a workbook file as opening it in the application does. When it cannot be read the
 // alert is on stderr, the exit code is set to 1 and nothing is returned. A file that is XML
-// but no workbook gives its alert and a new default workbook, as the application shows.
+// but no workbook fails too: the application alerts and shows a blank workbook, which a
+// command must not take for the file's content.
 std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path);
 
-// The bytes of a price or template file; on failure the alert is on stderr and the exit code
-// is 1.
-std::optional<std::string> readFileForOpening(const std::string& path);
+// Opens a price file into `pricing` as the price list window does, or a job-summary template
+// into `workbook` as the job summary screen does. On failure the alert is on stderr, the exit
+// code is 1 and false is returned.
+bool openPrices(const std::string& path, ZOLPricing& pricing);
+bool openTemplate(const std::string& path, ZOLWorkbook& workbook);
 
 // Loads a price file (.zp) into the workbook's price list, replacing it as the price list
 // window does, and a job-summary template (.zci) as the job summary screen does; an empty path

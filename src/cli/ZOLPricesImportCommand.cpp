@@ -2,7 +2,6 @@
 // as the price list window's open does, and saves the workbook.
 #include "cli/ZOLCliFiles.h"
 #include "cli/ZOLCliSupport.h"
-#include "io/ZOLPriceFileReader.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 
@@ -31,14 +30,8 @@ zolcli::Registrar reg("prices-import", [](CLI::App& root) {
         auto workbook = zolcli::openWorkbook(options->workbook);
         if (!workbook)
             return;
-        const auto bytes = zolcli::readFileForOpening(options->prices);
-        if (!bytes)
+        if (!zolcli::openPrices(options->prices, *workbook->pricingData()))
             return;
-        if (ZOLPriceFileReader::readPriceData(*bytes, *workbook->pricingData()) !=
-            ZOLReadStatus::Read) {
-            zolcli::setExitCode(1);
-            return;
-        }
         zolcli::save(options->output, workbook->getXMLString());
     });
 });

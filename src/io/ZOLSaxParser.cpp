@@ -123,6 +123,32 @@ xmlParserInputPtr onResolveEntity(void*, const xmlChar*, const xmlChar*) {
 
 // Errors are reported to the user by the reader's own alert; libxml2 must not print them.
 void onStructuredError(void*, xmlErrorPtr) {}
+void onGenericError(void*, const char*, ...) {}
+
+// A few errors (text that the encoding its declaration names cannot convert, for one) are raised
+// outside the parser's context, on libxml2's error channel for the thread, which prints them on
+// stderr. For the length of a parse that channel is silenced; the parse fails all the same.
+class QuietErrorChannel {
+public:
+    QuietErrorChannel()
+        : structured_(xmlStructuredError), structuredContext_(xmlStructuredErrorContext),
+          generic_(xmlGenericError), genericContext_(xmlGenericErrorContext) {
+        xmlSetStructuredErrorFunc(nullptr, onStructuredError);
+        xmlSetGenericErrorFunc(nullptr, onGenericError);
+    }
+    ~QuietErrorChannel() {
+        xmlSetStructuredErrorFunc(structuredContext_, structured_);
+        xmlSetGenericErrorFunc(genericContext_, generic_);
+    }
+    QuietErrorChannel(const QuietErrorChannel&) = delete;
+    QuietErrorChannel& operator=(const QuietErrorChannel&) = delete;
+
+private:
+    xmlStructuredErrorFunc structured_;
+    void* structuredContext_;
+    xmlGenericErrorFunc generic_;
+    void* genericContext_;
+};
 
 xmlSAXHandler makeHandler() {
     xmlSAXHandler sax;
@@ -180,6 +206,7 @@ bool ZOLSaxParser::parse(std::string_view bytes, ZOLSaxHandler& handler) {
         return false;
     }
     xmlInitParser();
+    const QuietErrorChannel quiet;
     xmlParserCtxtPtr context =
         xmlCreateMemoryParserCtxt(bytes.data(), static_cast<int>(bytes.size()));
     if (!context) {

@@ -218,6 +218,7 @@ ZOLWorkbookReader::Result ZOLWorkbookReader::readWorkbookData(std::string_view b
     }
     result.status = ZOLReadStatus::Read;
     // A file without a "Workbook" element opens as a new document would.
+    result.noWorkbookElement = !reader.loadedWorkbook();
     result.workbook =
         reader.loadedWorkbook() ? reader.loadedWorkbook() : std::make_shared<ZOLWorkbook>();
     return result;

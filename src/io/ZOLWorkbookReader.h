@@ -47,6 +47,8 @@ public:
         // The workbook to show when the status is Read: the file's, or a new default workbook
         // when the file is XML without a "Workbook" element (the reader has alerted).
         std::shared_ptr<ZOLWorkbook> workbook;
+        // The file was XML without a "Workbook" element: `workbook` is a new default one.
+        bool noWorkbookElement = false;
         bool ok() const { return status == ZOLReadStatus::Read; }
     };
 
