@@ -4,6 +4,7 @@
 
 #include <deque>
 #include <memory>
+#include <string>
 #include <vector>
 
 class AlertRecorder : public ZOLAlertPresenter {
@@ -18,6 +19,13 @@ public:
     }
     std::vector<ZOLAlert> alerts;
     std::deque<int> answers;
+
+    std::vector<std::string> messages() const {
+        std::vector<std::string> list;
+        for (const auto& alert : alerts)
+            list.push_back(alert.message);
+        return list;
+    }
 };
 
 // Installs a recorder for the lifetime of the scope and puts the previous presenter back.
