@@ -145,11 +145,6 @@ TEST(ZolestFiles, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
         for (const auto& sheet : json["worksheets"])
             EXPECT_EQ(keys(sheet[key]), keys(single)) << key;
     }
-    // The workbook totals are the sums over the worksheets' walls.
-    double gross = 0.0;
-    for (const auto& sheet : json["worksheets"])
-        gross += sheet.at("wall").at("getGrossSqFtOfWall").get<double>();
-    EXPECT_DOUBLE_EQ(json["getTotalGrossSquareFeet"].get<double>(), gross);
     // The generated lines, wall package first, each with its seven fields.
     ASSERT_FALSE(json["customItems"].empty());
     EXPECT_EQ(json["customItems"].at(0).at("name"), "Zol Blocks Package");

@@ -14,7 +14,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <regex>
 #include <string>
 
@@ -55,16 +54,6 @@ TEST(ZOLHostileFiles, ExtremeNumbersReadCleanlyAndCanBeComputedAndSaved) {
         ASSERT_EQ(result.status, ZOLReadStatus::Read) << value;
         useWorkbook(*result.workbook);
     }
-    // Numbers the reader does not take (hex, nan, inf) read as 0; overflow saturates.
-    auto wall = [](const std::string& value) {
-        return ZOLWorkbookReader::readWorkbookData(everyValue(value))
-            .workbook->worksheets()[0]
-            ->wallData();
-    };
-    EXPECT_DOUBLE_EQ(wall("nan")->wallLength(), 0.0);
-    EXPECT_DOUBLE_EQ(wall("0x7fffffff")->wallLength(), 0.0);
-    EXPECT_EQ(wall("99999999999999999999")->radius(), 2147483647);
-    EXPECT_TRUE(std::isinf(wall("1e400")->wallLength()));
     EXPECT_TRUE(alerts->alerts.empty());
 }
 
