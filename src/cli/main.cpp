@@ -16,6 +16,21 @@ std::string commandPath(CLI::App& app) {
     }
     return path;
 }
+
+// The first word on the command line after the commands that were recognised, if any.
+std::string wordAfter(CLI::App& app, int argc, char** argv) {
+    std::size_t depth = 0;
+    for (CLI::App* command = &app; !command->get_subcommands().empty(); ++depth)
+        command = command->get_subcommands().front();
+    for (int i = 1; i < argc; ++i) {
+        if (argv[i][0] == '-')
+            continue;
+        if (depth == 0)
+            return argv[i];
+        --depth;
+    }
+    return std::string();
+}
 } // namespace
 
 int main(int argc, char** argv) {
@@ -34,7 +49,15 @@ int main(int argc, char** argv) {
     } catch (const CLI::CallForAllHelp& e) {
         return app.exit(e);
     } catch (const CLI::ParseError& e) {
-        std::cerr << "zolest: " << e.what() << "\n";
+        // CLI11 calls a misspelt command a missing one; name the word the user typed instead.
+        std::string message = e.what();
+        if (dynamic_cast<const CLI::RequiredError*>(&e) &&
+            message.find("subcommand") != std::string::npos) {
+            const std::string typed = wordAfter(app, argc, argv);
+            if (!typed.empty())
+                message = "'" + typed + "' is not a command of '" + commandPath(app) + "'";
+        }
+        std::cerr << "zolest: " << message << "\n";
         std::cerr << "Run '" << commandPath(app) << " --help' for usage.\n";
         return 2;
     }

@@ -82,7 +82,8 @@ TEST(ZolestCalcEngines, BadInputExitsWithUsageError) {
         {{"calc", "tilt", "--wallLength"}, "--wallLength"},
         {{"calc", "manhours", "--crewSize", "4.5"}, "--crewSize"},
         {{"calc", "manhours", "--rebarComplexity", "Intense"}, "--rebarComplexity"},
-        {{"calc", "pour"}, "subcommand"},
+        {{"calc", "pour"}, "'pour' is not a command of 'zolest calc'"},
+        {{"calc"}, "A subcommand is required"},
     };
     for (const auto& [args, option] : bad) {
         const CliResult r = runZolest(args);
