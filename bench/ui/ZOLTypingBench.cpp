@@ -61,14 +61,14 @@ int main(int argc, char* argv[]) {
         const char* screen;
     } fields[] = {{"wall length (Wall Entry tab)", "wallLength", 0, "ZOLWallEntryViewController"},
                   {"project name (header)", "projectName", -1, ""}};
-    for (const Field& spec : fields) {
-        if (spec.tab >= 0)
-            document.tabView()->setCurrentIndex(spec.tab);
+    for (const Field& entry : fields) {
+        if (entry.tab >= 0)
+            document.tabView()->setCurrentIndex(entry.tab);
         // The wall info tab shows the wall length too; the field typed into is the entry's.
-        QWidget* screen = spec.tab >= 0 ? document.screenNamed(spec.screen) : &document;
-        auto* field = screen ? screen->findChild<QLineEdit*>(spec.name) : nullptr;
+        QWidget* screen = entry.tab >= 0 ? document.screenNamed(entry.screen) : &document;
+        auto* field = screen ? screen->findChild<QLineEdit*>(entry.name) : nullptr;
         if (!field) {
-            std::printf("%-32s  (no such field)\n", spec.label);
+            std::printf("%-32s  (no such field)\n", entry.label);
             continue;
         }
         field->setFocus();
@@ -76,10 +76,10 @@ int main(int argc, char* argv[]) {
         for (bool whole : {false, true}) {
             const Timing timing = timeKeystrokes(document, field, 50, whole);
             std::printf("%-30s %-8s median %6.3f ms   p95 %6.3f ms   slowest %6.3f ms\n",
-                        spec.label, whole ? "whole" : "changed", timing.median, timing.p95,
+                        entry.label, whole ? "whole" : "changed", timing.median, timing.p95,
                         timing.worst);
         }
-        std::printf("%-30s field now shows \"%s\"\n", spec.label, qPrintable(field->text()));
+        std::printf("%-30s field now shows \"%s\"\n", entry.label, qPrintable(field->text()));
     }
     return 0;
 }
