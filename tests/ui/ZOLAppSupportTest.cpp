@@ -5,63 +5,18 @@
 #include "ui/ZOLRecoveryStore.h"
 #include "ui/ZOLSettingsPreferences.h"
 
-#include <QApplication>
-#include <QDialog>
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSettings>
-#include <QStandardPaths>
-#include <QTemporaryDir>
-#include <QTimer>
-#include <QtTest>
-
-namespace {
-// Runs `act` on the next modal window once it shows.
-void whenModalShows(std::function<void(QWidget*)> act) {
-    auto* timer = new QTimer(qApp);
-    timer->setInterval(10);
-    QObject::connect(timer, &QTimer::timeout, [timer, act] {
-        if (QWidget* modal = QApplication::activeModalWidget()) {
-            timer->stop();
-            timer->deleteLater();
-            act(modal);
-        }
-    });
-    timer->start();
-}
-
-QPushButton* buttonTitled(QWidget* window, const QString& title) {
-    for (auto* button : window->findChildren<QPushButton*>())
-        if (button->text() == title)
-            return button;
-    return nullptr;
-}
-
-void writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-} // namespace
+#include "UiTestSupport.h"
 
 class ZOLAppSupportTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
-        QApplication::setOrganizationName("Zol Blocks Test");
-        QApplication::setApplicationName("ZOLAppSupportTest");
-    }
+    void initTestCase() { useTestSettings("ZOLAppSupportTest"); }
     void init() { QSettings().clear(); }
 
     void recoveryFilesOutliveOnlyACrash() {
         QTemporaryDir dir;
+        const QDir folder(dir.path());
         ZOLRecoveryStore store(dir.path());
         QString kept;
         {
@@ -76,16 +31,13 @@ private slots:
         QVERIFY(!QFile::exists(kept));
 
         // A crash leaves the file and a lock whose process no longer runs.
-        const QString crashed = QDir(dir.path()).filePath("recovery-crashed.zol");
-        writeFile(crashed, "<Workbook/>");
-        writeFile(crashed + ".lock",
-                  "2147483000\nzol-estimator\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-        const QString noLock = QDir(dir.path()).filePath("recovery-nolock.zol");
-        writeFile(noLock, "<Workbook></Workbook>");
-        writeFile(QDir(dir.path()).filePath("notes.txt"), "not a recovery file");
+        writeAll(folder.filePath("recovery-crashed.zol"), "<Workbook/>");
+        writeAll(folder.filePath("recovery-crashed.zol.lock"),
+                 "2147483000\nzol-estimator\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+        writeAll(folder.filePath("recovery-nolock.zol"), "<Workbook></Workbook>");
+        writeAll(folder.filePath("notes.txt"), "not a recovery file");
 
         auto orphans = store.orphans();
-        QCOMPARE(orphans.size(), size_t(2));
         QStringList paths;
         for (const auto& slot : orphans)
             paths << QFileInfo(slot->path()).fileName();
@@ -95,9 +47,7 @@ private slots:
         // Taken over by this process, they are not offered twice.
         QVERIFY(store.orphans().empty());
         orphans.clear();
-        QVERIFY(!QFile::exists(crashed));
-        QVERIFY(!QFile::exists(noLock));
-        QVERIFY(QFile::exists(QDir(dir.path()).filePath("notes.txt")));
+        QCOMPARE(folder.entryList(QDir::Files), QStringList{"notes.txt"});
     }
 
     void recentFilesListMostRecentFirstWithoutRepeats() {
@@ -148,7 +98,7 @@ private slots:
         QCOMPARE(ZOLSettingsKeys::autosaveDelaySeconds(), 3);
     }
 
-    void presenterReturnsTheButtonChosen() {
+    void presenterReturnsTheButtonChosenAndTheFieldsText() {
         ZOLQtAlertPresenter presenter;
         whenModalShows([](QWidget* box) {
             QVERIFY(qobject_cast<QMessageBox*>(box));
@@ -165,14 +115,11 @@ private slots:
         QCOMPARE(presenter.present({"Save?", "", {"Save", "Don't Save", "Cancel"}}), 2);
         whenModalShows([](QWidget* box) { QTest::keyClick(box, Qt::Key_Return); });
         QCOMPARE(presenter.present({"Save?", "", {"Save", "Don't Save", "Cancel"}}), 0);
-    }
 
-    void presenterFieldsHandBackTheirText() {
-        ZOLQtAlertPresenter presenter;
+        // Fields hand back their text.
         std::string name = "Worksheet 1";
         whenModalShows([](QWidget* dialog) {
-            auto* field = dialog->findChild<QLineEdit*>("alertField");
-            QVERIFY(field);
+            auto* field = control<QLineEdit>(dialog, "alertField");
             QCOMPARE(field->text(), QString("Worksheet 1"));
             field->setText("Garage");
             QTest::keyClick(field, Qt::Key_Return);
@@ -185,8 +132,7 @@ private slots:
 
         std::string notes = "Pour on Monday";
         whenModalShows([](QWidget* dialog) {
-            auto* text = dialog->findChild<QPlainTextEdit*>("alertText");
-            QVERIFY(text);
+            auto* text = control<QPlainTextEdit>(dialog, "alertText");
             QVERIFY(text->width() >= 400 && text->height() >= 400);
             text->setPlainText("Pour on Tuesday\nCall the pump");
             buttonTitled(dialog, "Done")->click();

@@ -1,108 +1,86 @@
 // The document window: the worksheet commands with their alerts, the project header, notes, and
 // the file flow (save, reopen, unsaved changes, autosave and recovery, unreadable files).
 #include "ui/ZOLDocument.h"
-#include "FieldAlertRecorder.h"
+#include "UiTestSupport.h"
 #include "model/ZOLOpening.h"
 #include "model/ZOLOpenings.h"
-#include "model/ZOLPricing.h"
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
 #include "ui/ZOLBlockInfoViewController.h"
 #include "ui/ZOLDocumentController.h"
-#include "ui/ZOLFilePanels.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
-#include "ui/ZOLRecoveryStore.h"
-#include "ui/ZOLSettingsPreferences.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
 #include "ui/ZOLWorkbookSummaryViewController.h"
 
-#include <QComboBox>
-#include <QDateEdit>
-#include <QDir>
-#include <QFile>
-#include <QLineEdit>
-#include <QSettings>
-#include <QStandardPaths>
-#include <QTabWidget>
-#include <QTableWidget>
-#include <QTemporaryDir>
-#include <QtTest>
-
-#include <memory>
-
 namespace {
-const std::string kLongDuplicate = "A worksheet with that name already exists. Please try again "
-                                   "with a different worksheet name.";
+const QString kLongDuplicate = "A worksheet with that name already exists. Please try again "
+                               "with a different worksheet name.";
 
 template <class Screen> Screen* screen(const ZOLDocument& document) {
     return qobject_cast<Screen*>(document.screenNamed(Screen::staticMetaObject.className()));
 }
 
-std::vector<std::string> names(const ZOLWorkbook& workbook) {
-    std::vector<std::string> out;
+// The worksheet names, and what the selector lists and shows.
+QString names(const ZOLWorkbook& workbook) {
+    QStringList out;
     for (const auto& sheet : workbook.worksheets())
-        out.push_back(sheet->name());
-    return out;
+        out << QString::fromStdString(sheet->name());
+    return out.join(", ");
+}
+QString selector(const ZOLDocument& document) {
+    QStringList items;
+    for (int i = 0; i < document.worksheetSelection()->count(); ++i)
+        items << document.worksheetSelection()->itemText(i);
+    return items.join(", ") + " showing " + document.worksheetSelection()->currentText();
 }
 
-QByteArray readAll(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-void writeAll(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-// Answers the save and open panels with the paths given, in order.
-class ScriptedPanels {
-public:
-    explicit ScriptedPanels(QStringList answers) : answers_(std::move(answers)) {
-        ZOLFilePanels::setScript([this](const ZOLFilePanels::Request& request) {
-            requests.append(request.title);
-            return answers_.isEmpty() ? QStringList() : QStringList{answers_.takeFirst()};
-        });
-    }
-    ~ScriptedPanels() { ZOLFilePanels::setScript({}); }
-    QStringList requests;
-
-private:
-    QStringList answers_;
-};
 } // namespace
 
 class ZOLDocumentTest : public QObject {
     Q_OBJECT
 
-private slots:
-    void initTestCase() {
-        QStandardPaths::setTestModeEnabled(true);
-        QApplication::setOrganizationName("Zol Blocks Test");
-        QApplication::setApplicationName("ZOLDocumentTest");
+    std::shared_ptr<FieldAlertRecorder> alerts;
+    std::shared_ptr<ZOLAlertPresenter> previous_;
+    QTemporaryDir dir_;
+
+    void add(ZOLDocument& document, const std::string& name, int button = 0) {
+        alerts->answer(button, name);
+        document.addWorksheet();
     }
+    static std::shared_ptr<ZOLWall> firstWall(const ZOLDocument& document) {
+        return document.workbook()->worksheets()[0]->wallData();
+    }
+    // Edits the first wall's length as a screen would.
+    static void setLength(ZOLDocument& document, double length) {
+        firstWall(document)->setWallLength(length);
+        document.noteEdit();
+    }
+
+private slots:
+    void initTestCase() { useTestSettings("ZOLDocumentTest"); }
     void init() {
         QSettings().clear();
         QVERIFY(dir_.isValid());
+        alerts = std::make_shared<FieldAlertRecorder>();
+        previous_ = ZOLAlerts::setPresenter(alerts);
     }
+    void cleanup() { ZOLAlerts::setPresenter(previous_); }
 
     void newDocumentShowsOneWorksheetOnEveryScreen() {
         ZOLDocument document;
-        QCOMPARE(names(*document.workbook()), std::vector<std::string>{"Worksheet 1"});
-        QCOMPARE(document.worksheetSelection()->count(), 1);
-        QCOMPARE(document.worksheetSelection()->currentText(), QString("Worksheet 1"));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1"));
+        QCOMPARE(selector(document), QString("Worksheet 1 showing Worksheet 1"));
         QCOMPARE(document.windowTitle(), QString("Untitled[*]"));
         QVERIFY(!document.isDocumentEdited());
         // The screens still to come have no tab at all.
         QStringList titles;
         for (int i = 0; i < document.tabView()->count(); ++i)
             titles << document.tabView()->tabText(i);
-        QCOMPARE(titles, QStringList({"Wall Entry", "Openings", "Block Info", "Wall Info",
-                                      "Workbook Summary"}));
+        QCOMPARE(titles.join(", "),
+                 QString("Wall Entry, Openings, Block Info, Wall Info, Workbook Summary"));
 
         const auto sheet = document.workbook()->worksheets()[0];
         auto* wallEntry = screen<ZOLWallEntryViewController>(document);
@@ -117,138 +95,109 @@ private slots:
         QCOMPARE(document.workbookSummary()->workbook(), document.workbook());
 
         // Choosing another worksheet hands its records to every screen.
-        ScopedFieldAlertRecorder alerts;
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
+        add(document, "Garage");
         const auto garage = document.workbook()->worksheets()[1];
         QCOMPARE(wallEntry->wallData(), garage->wallData());
         QCOMPARE(openings->openingData(), garage->openingData());
         QCOMPARE(wallInfo->wallData(), garage->wallData());
-        document.worksheetSelection()->setCurrentIndex(0);
-        emit document.worksheetSelection()->activated(0);
+        choose(document.worksheetSelection(), 0);
         QCOMPARE(blockInfo->wallData(), sheet->wallData());
     }
 
     void addingWorksheetsChecksTheNameWithTheLongAlert() {
-        ScopedFieldAlertRecorder alerts;
         ZOLDocument document;
-
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
-        QCOMPARE(alerts->alerts.at(0).message, std::string("Enter a name for the new worksheet"));
-        QCOMPARE(alerts->alerts.at(0).buttons, (std::vector<std::string>{"OK", "Cancel"}));
-        QCOMPARE(alerts->alerts.at(0).informativeText, std::string());
+        add(document, "Garage");
+        QCOMPARE(alerts->last(), QString("Enter a name for the new worksheet [OK|Cancel] "));
         QCOMPARE(alerts->shownTexts.at(0), std::string());
-        QCOMPARE(names(*document.workbook()), (std::vector<std::string>{"Worksheet 1", "Garage"}));
-        QCOMPARE(document.worksheetSelection()->currentIndex(), 1);
-        QCOMPARE(document.worksheetSelection()->currentText(), QString("Garage"));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage"));
+        QCOMPARE(selector(document), QString("Worksheet 1, Garage showing Garage"));
         QVERIFY(document.isDocumentEdited());
 
         // A taken name gets the document's own long alert, not the workbook's short one.
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
-        QCOMPARE(alerts.messages().back(), kLongDuplicate);
+        add(document, "Garage");
+        QCOMPARE(alerts->last(), kLongDuplicate + " [OK] ");
         QCOMPARE(alerts->alerts.size(), size_t(3));
-        QCOMPARE(document.workbook()->worksheets().size(), size_t(2));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage"));
 
         // Cancel adds nothing, whatever was typed; an empty name is a name.
-        alerts.answer(1, "Porch");
-        document.addWorksheet();
-        alerts.answer(0, "");
-        document.addWorksheet();
-        QCOMPARE(names(*document.workbook()),
-                 (std::vector<std::string>{"Worksheet 1", "Garage", ""}));
+        add(document, "Porch", 1);
+        add(document, "");
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage, "));
         QCOMPARE(document.worksheetSelection()->currentIndex(), 2);
         QCOMPARE(document.worksheetSelection()->count(), 3);
     }
 
     void renamingChecksOtherNamesOnly() {
-        ScopedFieldAlertRecorder alerts;
         ZOLDocument document;
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
+        add(document, "Garage");
 
         // Its own name: nothing happens and no second alert.
-        alerts.answer(0, "Garage");
+        alerts->answer(0, "Garage");
         document.renameWorksheet();
         QCOMPARE(alerts->alerts.size(), size_t(2));
-        QCOMPARE(alerts->alerts.back().message, std::string("Enter a new name for this worksheet"));
+        QCOMPARE(alerts->last(), QString("Enter a new name for this worksheet [OK|Cancel] "));
         QCOMPARE(alerts->shownTexts.back(), std::string("Garage"));
 
-        alerts.answer(0, "Worksheet 1");
+        alerts->answer(0, "Worksheet 1");
         document.renameWorksheet();
-        QCOMPARE(alerts.messages().back(), kLongDuplicate);
-        QCOMPARE(names(*document.workbook()), (std::vector<std::string>{"Worksheet 1", "Garage"}));
+        QCOMPARE(alerts->last(), kLongDuplicate + " [OK] ");
+        alerts->answer(1, "Shed");
+        document.renameWorksheet();
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage"));
 
-        alerts.answer(1, "Shed");
+        alerts->answer(0, "Shed");
         document.renameWorksheet();
-        QCOMPARE(names(*document.workbook())[1], std::string("Garage"));
-
-        alerts.answer(0, "Shed");
-        document.renameWorksheet();
-        QCOMPARE(names(*document.workbook()), (std::vector<std::string>{"Worksheet 1", "Shed"}));
-        QCOMPARE(document.worksheetSelection()->currentText(), QString("Shed"));
-        QCOMPARE(document.worksheetSelection()->itemText(1), QString("Shed"));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Shed"));
+        QCOMPARE(selector(document), QString("Worksheet 1, Shed showing Shed"));
     }
 
     void deletingLeavesTheWindowAsItWas() {
-        ScopedFieldAlertRecorder alerts;
         ZOLDocument document;
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
+        add(document, "Garage");
         const auto garageWall = document.workbook()->worksheets()[1]->wallData();
 
-        alerts.answer(1);
+        alerts->answer(1);
         document.deleteWorksheet();
-        QCOMPARE(alerts.messages().back(),
-                 std::string("Are you sure you want to delete this worksheet?"));
-        QCOMPARE(alerts->alerts.back().buttons, (std::vector<std::string>{"OK", "Cancel"}));
-        QCOMPARE(document.workbook()->worksheets().size(), size_t(2));
+        QCOMPARE(alerts->last(),
+                 QString("Are you sure you want to delete this worksheet? [OK|Cancel] "));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage"));
 
-        alerts.answer(0);
+        alerts->answer(0);
         document.deleteWorksheet();
-        QCOMPARE(names(*document.workbook()), std::vector<std::string>{"Worksheet 1"});
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1"));
         // Nothing is refreshed: the selector still shows the deleted worksheet.
-        QCOMPARE(document.worksheetSelection()->currentText(), QString("Garage"));
-        QCOMPARE(document.worksheetSelection()->count(), 2);
+        QCOMPARE(selector(document), QString("Worksheet 1, Garage showing Garage"));
 
         // Its index is now past the end: there is nothing to rename, and deleting again
         // asks but finds nothing to delete.
         const size_t asked = alerts->alerts.size();
         document.renameWorksheet();
         QCOMPARE(alerts->alerts.size(), asked);
-        alerts.answer(0);
+        alerts->answer(0);
         document.deleteWorksheet();
         QCOMPARE(alerts->alerts.size(), asked + 1);
-        QCOMPARE(names(*document.workbook()), std::vector<std::string>{"Worksheet 1"});
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1"));
         // The screens still hold the deleted worksheet's records.
         QCOMPARE(screen<ZOLWallEntryViewController>(document)->wallData(), garageWall);
 
         // Choosing a worksheet brings the selector up to date.
-        document.worksheetSelection()->setCurrentIndex(0);
-        emit document.worksheetSelection()->activated(0);
-        QCOMPARE(document.worksheetSelection()->count(), 1);
-        QCOMPARE(document.worksheetSelection()->currentText(), QString("Worksheet 1"));
-    }
+        choose(document.worksheetSelection(), 0);
+        QCOMPARE(selector(document), QString("Worksheet 1 showing Worksheet 1"));
 
-    void theLastWorksheetCanGoAndComesBackOnOpening() {
-        ScopedFieldAlertRecorder alerts;
-        ZOLDocument document;
-        alerts.answer(0);
+        // The last worksheet can go too, and comes back on opening.
+        alerts->answer(0);
         document.deleteWorksheet();
         QVERIFY(document.workbook()->worksheets().empty());
-
         const QString path = dir_.filePath("empty.zol");
         QVERIFY(document.saveToFile(path));
         QVERIFY(readAll(path).contains("\t<Worksheets>\n\t</Worksheets>\n"));
-
         ZOLDocument reopened;
         QVERIFY(reopened.readFromFile(path));
-        QCOMPARE(names(*reopened.workbook()), std::vector<std::string>{"Worksheet 1"});
-        QCOMPARE(reopened.worksheetSelection()->currentText(), QString("Worksheet 1"));
+        QCOMPARE(names(*reopened.workbook()), QString("Worksheet 1"));
+        QCOMPARE(selector(reopened), QString("Worksheet 1 showing Worksheet 1"));
     }
 
-    void headerFieldsWriteEveryKeystroke() {
+    void headerFieldsWriteEveryKeystrokeAndNotesOnDone() {
         ZOLDocument document;
         const ZOLWorkbook& book = *document.workbook();
         const std::pair<const char*, const std::optional<std::string>& (ZOLWorkbook::*)() const>
@@ -269,38 +218,30 @@ private slots:
         auto* date = document.findChild<QDateEdit*>("projectDate");
         date->setDate(date->date().addDays(3));
         QCOMPARE(document.workbook()->projectDate().value_or(0), before + 3 * 86400);
-    }
 
-    void notesAreReplacedOnDoneOnly() {
-        ScopedFieldAlertRecorder alerts;
-        ZOLDocument document;
-        alerts.answer(0, "Pour Monday\n<b>Call the pump</b>");
+        // The notes are replaced on Done only.
+        const std::string notes = "Pour Monday\n<b>Call the pump</b>";
+        alerts->answer(0, notes);
         document.editNotes();
-        QCOMPARE(alerts->alerts.at(0).message, std::string("Project Notes"));
-        QCOMPARE(alerts->alerts.at(0).buttons, (std::vector<std::string>{"Done", "Cancel"}));
-        QCOMPARE(document.workbook()->notes().value_or(""),
-                 std::string("Pour Monday\n<b>Call the pump</b>"));
-        alerts.answer(1, "lost");
+        QCOMPARE(alerts->last(), QString("Project Notes [Done|Cancel] "));
+        QCOMPARE(document.workbook()->notes().value_or(""), notes);
+        alerts->answer(1, "lost");
         document.editNotes();
-        QCOMPARE(alerts->shownTexts.back(), std::string("Pour Monday\n<b>Call the pump</b>"));
-        QCOMPARE(document.workbook()->notes().value_or(""),
-                 std::string("Pour Monday\n<b>Call the pump</b>"));
+        QCOMPARE(alerts->shownTexts.back(), notes);
+        QCOMPARE(document.workbook()->notes().value_or(""), notes);
     }
 
     void savedWorkbookReopensWithItsWorksheetsAndTitle() {
-        ScopedFieldAlertRecorder alerts;
         ZOLDocument document;
-        alerts.answer(0, "Garage");
-        document.addWorksheet();
+        add(document, "Garage");
         document.workbook()->worksheets()[1]->wallData()->setWallLength(64.0);
         document.workbook()->setProjectName(std::string("Lakeside"));
         document.noteEdit();
         QVERIFY(document.isWindowModified());
-
         {
             ScriptedPanels panels({dir_.filePath("lakeside")});
             QVERIFY(document.save());
-            QCOMPARE(panels.requests, QStringList{"Save Workbook"});
+            QCOMPARE(panels.requests, QStringList{"Save Workbook *.zol"});
         }
         const QString path = dir_.filePath("lakeside.zol");
         QCOMPARE(document.filePath(), path);
@@ -312,7 +253,7 @@ private slots:
         controller.setRecoveryDirectory(dir_.filePath("recovery"));
         ZOLDocument* reopened = controller.openDocument(path);
         QVERIFY(reopened);
-        QCOMPARE(names(*reopened->workbook()), (std::vector<std::string>{"Worksheet 1", "Garage"}));
+        QCOMPARE(names(*reopened->workbook()), QString("Worksheet 1, Garage"));
         QCOMPARE(reopened->workbook()->worksheets()[1]->wallData()->wallLength(), 64.0);
         QCOMPARE(reopened->findChild<QLineEdit*>("projectName")->text(), QString("Lakeside"));
         QVERIFY(!reopened->isDocumentEdited());
@@ -324,138 +265,115 @@ private slots:
     }
 
     void closingAsksAboutUnsavedChanges() {
-        ScopedFieldAlertRecorder alerts;
         const QString path = dir_.filePath("ask.zol");
-        auto document = std::make_unique<ZOLDocument>();
-        QVERIFY(document->canClose()); // nothing to ask
+        ZOLDocument document;
+        QVERIFY(document.canClose()); // nothing to ask
         QVERIFY(alerts->alerts.empty());
 
-        document->workbook()->worksheets()[0]->wallData()->setWallLength(10.0);
-        document->noteEdit();
-        alerts.answer(2); // Cancel
-        QVERIFY(!document->canClose());
-        QCOMPARE(alerts->alerts.back().message,
-                 std::string("Do you want to save the changes you made in the document "
-                             "“Untitled”?"));
-        QCOMPARE(alerts->alerts.back().buttons,
-                 (std::vector<std::string>{"Save", "Don't Save", "Cancel"}));
-        QVERIFY(document->isDocumentEdited());
-
+        setLength(document, 10.0);
+        alerts->answer(2); // Cancel
+        QVERIFY(!document.canClose());
+        QCOMPARE(alerts->last(),
+                 QString("Do you want to save the changes you made in the document "
+                         "“Untitled”? [Save|Don't Save|Cancel] Your changes will be lost if "
+                         "you don’t save them."));
+        QVERIFY(document.isDocumentEdited());
         // Save with the panel cancelled keeps the window open.
-        {
-            ScriptedPanels panels({});
-            alerts.answer(0);
-            QVERIFY(!document->canClose());
-        }
-        {
-            ScriptedPanels panels({path});
-            alerts.answer(0);
-            QVERIFY(document->canClose());
+        for (const QStringList& answers : {QStringList(), QStringList{path}}) {
+            ScriptedPanels panels(answers);
+            alerts->answer(0);
+            QCOMPARE(document.canClose(), !answers.isEmpty());
         }
         QVERIFY(readAll(path).contains("<WallLength>10.000000</WallLength>"));
 
         // Don't Save leaves the file as it was saved.
-        document->workbook()->worksheets()[0]->wallData()->setWallLength(20.0);
-        document->noteEdit();
-        alerts.answer(1);
-        QVERIFY(document->canClose());
+        setLength(document, 20.0);
+        alerts->answer(1);
+        QVERIFY(document.canClose());
         QVERIFY(readAll(path).contains("<WallLength>10.000000</WallLength>"));
 
         // Undoing an edit by hand leaves nothing to ask about.
-        document->workbook()->worksheets()[0]->wallData()->setWallLength(10.0);
-        document->noteEdit();
-        QVERIFY(!document->isDocumentEdited());
-        QVERIFY(!document->isWindowModified());
+        setLength(document, 10.0);
+        QVERIFY(!document.isDocumentEdited() && !document.isWindowModified());
     }
 
     void autosaveWritesInPlaceAndDontSavePutsTheFileBack() {
-        ScopedFieldAlertRecorder alerts;
         const QString path = dir_.filePath("autosave.zol");
         ZOLDocument document;
         QVERIFY(document.saveToFile(path));
         const QByteArray saved = readAll(path);
 
-        document.workbook()->worksheets()[0]->wallData()->setWallLength(33.0);
-        document.noteEdit();
+        setLength(document, 33.0);
         document.autosave();
         QVERIFY(readAll(path).contains("<WallLength>33.000000</WallLength>"));
         QVERIFY(document.isDocumentEdited()); // autosave is not the user's Save
 
         // Revert goes back to what the user saved, in the window and in the file.
-        alerts.answer(0);
+        alerts->answer(0);
         document.revertDocumentToSaved();
-        QCOMPARE(alerts.messages().back(),
-                 std::string("Do you want to revert to the most recently saved version of the "
-                             "document “autosave.zol”?"));
-        QCOMPARE(document.workbook()->worksheets()[0]->wallData()->wallLength(), 0.0);
+        QCOMPARE(QString::fromStdString(alerts->alerts.back().message),
+                 QString("Do you want to revert to the most recently saved version of the "
+                         "document “autosave.zol”?"));
+        QCOMPARE(firstWall(document)->wallLength(), 0.0);
         QCOMPARE(readAll(path), saved);
         QVERIFY(!document.isDocumentEdited());
 
-        document.workbook()->worksheets()[0]->wallData()->setWallLength(44.0);
-        document.noteEdit();
+        setLength(document, 44.0);
         document.autosave();
-        alerts.answer(1); // Don't Save
+        alerts->answer(1); // Don't Save
         QVERIFY(document.canClose());
         QCOMPARE(readAll(path), saved);
     }
 
     void untitledWorkIsOfferedBackAfterACrash() {
-        ScopedFieldAlertRecorder alerts;
-        const QString recovery = dir_.filePath("recovery");
-        QString leftover;
+        const QDir recovery(dir_.filePath("recovery"));
         {
             ZOLDocumentController controller;
-            controller.setRecoveryDirectory(recovery);
+            controller.setRecoveryDirectory(recovery.path());
             ZOLDocument* document = controller.newDocument();
-            document->workbook()->worksheets()[0]->wallData()->setWallLength(55.0);
-            document->noteEdit();
+            setLength(*document, 55.0);
             document->autosave();
-            const QStringList files = QDir(recovery).entryList({"*.zol"}, QDir::Files);
+            const QStringList files = recovery.entryList({"*.zol"}, QDir::Files);
             QCOMPARE(files.size(), 1);
             // What a crash leaves: the file without its owner.
-            leftover = QDir(recovery).filePath("recovery-crash.zol");
-            QVERIFY(QFile::copy(QDir(recovery).filePath(files.front()), leftover));
-            alerts.answer(1); // Don't Save on the way out
+            QVERIFY(QFile::copy(recovery.filePath(files.front()),
+                                recovery.filePath("recovery-crash.zol")));
+            alerts->answer(1); // Don't Save on the way out
             QVERIFY(controller.closeAll());
-            QCOMPARE(QDir(recovery).entryList({"*.zol"}, QDir::Files),
-                     QStringList{"recovery-crash.zol"});
+            QCOMPARE(recovery.entryList({"*.zol"}, QDir::Files), QStringList{"recovery-crash.zol"});
         }
 
         ZOLDocumentController controller;
-        controller.setRecoveryDirectory(recovery);
-        alerts.answer(0); // Reopen
+        controller.setRecoveryDirectory(recovery.path());
+        alerts->answer(0); // Reopen
         QCOMPARE(controller.offerRecovery(), 1);
         QCOMPARE(alerts->alerts.back().buttons, (std::vector<std::string>{"Reopen", "Discard"}));
         ZOLDocument* restored = controller.documents().front();
-        QCOMPARE(restored->workbook()->worksheets()[0]->wallData()->wallLength(), 55.0);
+        QCOMPARE(firstWall(*restored)->wallLength(), 55.0);
         QVERIFY(restored->isDocumentEdited());
         QVERIFY(restored->filePath().isEmpty());
 
         // Discarding it at close removes the recovery file for good.
-        alerts.answer(1);
+        alerts->answer(1);
         QVERIFY(controller.closeAll());
-        QVERIFY(QDir(recovery).entryList({"*.zol"}, QDir::Files).isEmpty());
+        QVERIFY(recovery.entryList({"*.zol"}, QDir::Files).isEmpty());
         QCOMPARE(controller.offerRecovery(), 0);
     }
 
     void unreadableFilesOpenNothing() {
-        ScopedFieldAlertRecorder alerts;
         ZOLDocumentController controller;
         controller.setRecoveryDirectory(dir_.filePath("recovery"));
-
-        const QString picture = dir_.filePath("photo.zol");
-        writeAll(picture, QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
-        QVERIFY(!controller.openDocument(picture));
-        QCOMPARE(alerts.messages().back(), std::string("The file “photo.zol” couldn’t be opened."));
-
-        const QString broken = dir_.filePath("broken.zol");
-        writeAll(broken, "<Workbook><Worksheets><Worksheet Name=\"A\"></Workbook>");
-        QVERIFY(!controller.openDocument(broken));
-        QCOMPARE(alerts.messages().back(), std::string("There was an error opening the file."));
-
-        QVERIFY(!controller.openDocument(dir_.filePath("missing.zol")));
-        QCOMPARE(alerts.messages().back(),
-                 std::string("The file “missing.zol” couldn’t be opened."));
+        writeAll(dir_.filePath("photo.zol"), QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
+        writeAll(dir_.filePath("broken.zol"),
+                 "<Workbook><Worksheets><Worksheet Name=\"A\"></Workbook>");
+        const char* const files[][2] = {
+            {"photo.zol", "The file “photo.zol” couldn’t be opened."},
+            {"broken.zol", "There was an error opening the file."},
+            {"missing.zol", "The file “missing.zol” couldn’t be opened."}};
+        for (const auto& [file, message] : files) {
+            QVERIFY(!controller.openDocument(dir_.filePath(file)));
+            QCOMPARE(alerts->alerts.back().message, std::string(message));
+        }
         QCOMPARE(alerts->alerts.size(), size_t(3)); // one alert each
         QVERIFY(controller.documents().isEmpty());
     }
@@ -463,16 +381,13 @@ private slots:
     void selectingATabReloadsItsScreen() {
         ZOLDocument document;
         QTabWidget* tabs = document.tabView();
-        int summaryTab = -1;
-        for (int i = 0; i < tabs->count(); ++i)
-            if (tabs->tabText(i) == "Workbook Summary")
-                summaryTab = i;
-        QVERIFY(summaryTab >= 0);
+        const int summaryTab = tabs->count() - 1;
+        QCOMPARE(tabs->tabText(summaryTab), QString("Workbook Summary"));
         auto* table = document.workbookSummary()->findChild<QTableWidget*>("summaryTable");
         QCOMPARE(table->rowCount(), 0);
 
-        document.workbook()->worksheets()[0]->wallData()->setWallLength(100.0);
-        tabs->setCurrentIndex(summaryTab == 0 ? 1 : 0);
+        firstWall(document)->setWallLength(100.0);
+        tabs->setCurrentIndex(0);
         tabs->setCurrentIndex(summaryTab);
         QVERIFY(table->rowCount() > 2);
         QCOMPARE(table->item(0, 0)->text(), QString("8\" Straight Block"));
@@ -513,9 +428,6 @@ private slots:
                                     " " + widget->metaObject()->className()));
         }
     }
-
-private:
-    QTemporaryDir dir_;
 };
 
 QTEST_MAIN(ZOLDocumentTest)

@@ -1,19 +1,10 @@
 // The Openings tab driven through its widgets: adding and removing rows, editing cells in
 // place, the remove-sill box, the totals and sending them to the wall.
 #include "ui/ZOLOpeningsEntryViewController.h"
+#include "UiTestSupport.h"
 #include "model/ZOLOpening.h"
 #include "model/ZOLOpenings.h"
 #include "model/ZOLWall.h"
-#include "support/AlertRecorder.h"
-
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTableWidget>
-#include <QtTest>
-
-#include <memory>
 
 class ZOLOpeningsEntryViewControllerTest : public QObject {
     Q_OBJECT
@@ -24,7 +15,6 @@ class ZOLOpeningsEntryViewControllerTest : public QObject {
 
     QTableWidget* table() { return screen->findChild<QTableWidget*>("openingsTable"); }
     QPushButton* button(const char* name) { return screen->findChild<QPushButton*>(name); }
-    QString total(const char* name) { return screen->findChild<QLineEdit*>(name)->text(); }
     int column(const char* identifier) {
         for (int c = 0; c < table()->columnCount(); ++c)
             if (ZOLOpeningsEntryViewController::columnIdentifier(c) == QLatin1String(identifier))
@@ -37,18 +27,8 @@ class ZOLOpeningsEntryViewControllerTest : public QObject {
             numbers.push_back(o->rowNumber());
         return numbers;
     }
-    // Edits a cell the way a user does: open the editor, type, press Return.
     void typeInCell(int row, const char* identifier, const QString& keys) {
-        QTableWidgetItem* item = table()->item(row, column(identifier));
-        table()->setCurrentItem(item);
-        table()->editItem(item);
-        auto* editor = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-        QVERIFY(editor);
-        editor->selectAll();
-        QTest::keyClicks(editor, keys);
-        QTest::keyClick(editor, Qt::Key_Return);
-        // The table commits the editor's text once the key has been handled.
-        QCoreApplication::processEvents();
+        ::typeInCell(table(), row, column(identifier), keys);
     }
     // Adds a row and types its count, width and height.
     void addRow(const char* count, const char* width, const char* height) {
@@ -58,8 +38,12 @@ class ZOLOpeningsEntryViewControllerTest : public QObject {
         typeInCell(row, "Width", width);
         typeInCell(row, "Height", height);
     }
-    QString cell(int row, const char* identifier) {
-        return table()->item(row, column(identifier))->text();
+    // The texts of a row's cells, one space between.
+    QString cells(int row, std::initializer_list<const char*> identifiers) {
+        QStringList texts;
+        for (const char* identifier : identifiers)
+            texts << table()->item(row, column(identifier))->text();
+        return texts.join(' ');
     }
 
 private slots:
@@ -81,8 +65,8 @@ private slots:
         QCOMPARE(table()->rowCount(), 3);
         QCOMPARE(rowNumbers(), (std::vector<int32_t>{0, 1, 2}));
         // The table shows positions from 1 whatever is stored.
-        QCOMPARE(cell(0, "RowNumber"), QString("1"));
-        QCOMPARE(cell(2, "RowNumber"), QString("3"));
+        QCOMPARE(cells(0, {"RowNumber"}), QString("1"));
+        QCOMPARE(cells(2, {"RowNumber"}), QString("3"));
         const auto& fresh = *openings->openingList()[1];
         QCOMPARE(fresh.numberOfOpenings(), 0);
         QVERIFY(fresh.useSill());
@@ -98,7 +82,7 @@ private slots:
         QCOMPARE(table()->rowCount(), 2);
         QCOMPARE(rowNumbers(), (std::vector<int32_t>{1, 2}));
         QCOMPARE(openings->openingList()[0], second);
-        QCOMPARE(cell(0, "RowNumber"), QString("1"));
+        QCOMPARE(cells(0, {"RowNumber"}), QString("1"));
     }
 
     void cellEditsWriteTheRowAndTheTotals() {
@@ -107,21 +91,17 @@ private slots:
         QCOMPARE(row.numberOfOpenings(), 2);
         QCOMPARE(row.openingWidth(), 36.0);
         QCOMPARE(row.openingHeight(), 48.0);
-        QCOMPARE(cell(0, "Width"), QString("36.00"));
-        QCOMPARE(cell(0, "NetSqFt"), QString("12.00"));
-        QCOMPARE(cell(0, "TotalSqFt"), QString("24.00"));
-        QCOMPARE(cell(0, "NetLF"), QString("14.67"));
-        QCOMPARE(cell(0, "TotalLF"), QString("29.34"));
-        QCOMPARE(total("totalSqFt"), QString("24.00 Sq Ft"));
-        QCOMPARE(total("totalLF"), QString("29.34 LF"));
+        QCOMPARE(cells(0, {"Width", "NetSqFt", "TotalSqFt", "NetLF", "TotalLF"}),
+                 QString("36.00 12.00 24.00 14.67 29.34"));
+        expectTexts(screen.get(), "totalSqFt=24.00 Sq Ft|totalLF=29.34 LF");
 
         // Text is read by what it starts with; letters alone give 0.
         typeInCell(0, "Width", "30in");
         QCOMPARE(row.openingWidth(), 30.0);
         typeInCell(0, "NumberOfOpenings", "abc");
         QCOMPARE(row.numberOfOpenings(), 0);
-        QCOMPARE(cell(0, "NumberOfOpenings"), QString("0"));
-        QCOMPARE(total("totalSqFt"), QString("0.00 Sq Ft"));
+        QCOMPARE(cells(0, {"NumberOfOpenings"}), QString("0"));
+        expectTexts(screen.get(), "totalSqFt=0.00 Sq Ft");
 
         // The computed columns cannot be edited.
         QVERIFY(!(table()->item(0, column("NetSqFt"))->flags() & Qt::ItemIsEditable));
@@ -139,8 +119,7 @@ private slots:
         QVERIFY(!row.useSill());
         QCOMPARE(openings->getTotalLinearFeetOfBuck(), 11.67);
         // The sill changes the buck only: square and linear feet stay.
-        QCOMPARE(cell(0, "TotalSqFt"), QString("12.00"));
-        QCOMPARE(cell(0, "TotalLF"), QString("14.67"));
+        QCOMPARE(cells(0, {"TotalSqFt", "TotalLF"}), QString("12.00 14.67"));
 
         box->setCheckState(Qt::Unchecked);
         QVERIFY(row.useSill());
@@ -155,10 +134,7 @@ private slots:
         ScopedAlertRecorder alerts;
         wall->setSqftOpenings(5.0);
         button("sendOpeningDataToWall")->click();
-        QCOMPARE(alerts->alerts.size(), size_t(1));
-        QCOMPARE(alerts->alerts[0].message, std::string("Nothing to send"));
-        QCOMPARE(alerts->alerts[0].informativeText, std::string());
-        QCOMPARE(alerts->alerts[0].buttons, std::vector<std::string>{"OK"});
+        QCOMPARE(alertText(alerts->alerts.at(0)), QString("Nothing to send [OK] "));
         QCOMPARE(wall->sqftOpenings(), 5.0);
 
         addRow("2", "36", "48");
@@ -166,24 +142,23 @@ private slots:
 
         QSignalSpy edited(screen.get(), &ZOLOpeningsEntryViewController::edited);
         button("sendOpeningDataToWall")->click();
-        QCOMPARE(alerts->alerts.size(), size_t(2));
-        QCOMPARE(alerts->alerts[1].message, std::string("Opening data sent to the Wall page"));
+        QCOMPARE(alerts->messages().at(1), std::string("Opening data sent to the Wall page"));
         QCOMPARE(wall->sqftOpenings(), 24.0);
         QCOMPARE(wall->linearFeetBuck(), 2 * 11.67);
         QCOMPARE(edited.count(), 1);
 
         screen->setWallData(nullptr);
         button("sendOpeningDataToWall")->click();
-        QCOMPARE(alerts->alerts.size(), size_t(3));
-        QCOMPARE(alerts->alerts[2].message,
-                 std::string("There was an error accessing the Wall page"));
+        QCOMPARE(alerts->messages(),
+                 (std::vector<std::string>{"Nothing to send", "Opening data sent to the Wall page",
+                                           "There was an error accessing the Wall page"}));
     }
 
     void withoutAListTheTableIsEmpty() {
         screen->setOpeningData(nullptr);
         screen->loadValues();
         QCOMPARE(table()->rowCount(), 0);
-        QCOMPARE(total("totalSqFt"), QString("0.00 Sq Ft"));
+        expectTexts(screen.get(), "totalSqFt=0.00 Sq Ft");
         button("addOpening")->click();
         button("removeOpening")->click();
         QCOMPARE(table()->rowCount(), 0);

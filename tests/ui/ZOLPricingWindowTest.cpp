@@ -2,38 +2,9 @@
 // their alerts.
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
-#include "support/AlertRecorder.h"
-#include "ui/ZOLFilePanels.h"
 #include "ui/ZOLPricingWindowController.h"
 
-#include <QFile>
-#include <QLineEdit>
-#include <QTableWidget>
-#include <QTemporaryDir>
-#include <QtTest>
-
-namespace {
-void writeAll(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(bytes);
-}
-
-// Types into the price cell of `row` as a user would and presses Return.
-void typePrice(QTableWidget* table, int row, const QString& keys) {
-    table->setCurrentCell(row, ZOLPricingWindowController::kPriceColumn);
-    table->editItem(table->item(row, ZOLPricingWindowController::kPriceColumn));
-    QLineEdit* editor = nullptr;
-    for (auto* candidate : table->viewport()->findChildren<QLineEdit*>())
-        if (candidate->isVisible())
-            editor = candidate; // an earlier cell's editor may still wait to be deleted
-    QVERIFY(editor);
-    editor->selectAll();
-    QTest::keyClicks(editor, keys);
-    QTest::keyClick(editor, Qt::Key_Return);
-    QCoreApplication::processEvents(); // the table commits the edit from its event queue
-}
-} // namespace
+#include "UiTestSupport.h"
 
 class ZOLPricingWindowTest : public QObject {
     Q_OBJECT
@@ -52,15 +23,18 @@ private slots:
         QVERIFY(!(table->item(0, 0)->flags() & Qt::ItemIsEditable));
 
         // Typing is cleaned as in every entry field; the price is the number it starts with.
-        typePrice(table, 0, "12a.5");
+        const auto typePrice = [table](int row, const QString& keys) {
+            typeInCell(table, row, ZOLPricingWindowController::kPriceColumn, keys);
+        };
+        typePrice(0, "12a.5");
         QCOMPARE(pricing->priceItems()[0]->price(), 12.5);
         QCOMPARE(table->item(0, 1)->text(), QString("12.50"));
         QCOMPARE(pricing->getPriceForItemType(0, 4), 12.5);
-        typePrice(table, 40, "1.2.3");
+        typePrice(40, "1.2.3");
         QCOMPARE(pricing->priceItems()[40]->price(), 1.2);
         QCOMPARE(table->item(40, 1)->text(), QString("1.20"));
         // A lone minus is no number and is cleaned away, as in the entry fields.
-        typePrice(table, 1, "-3");
+        typePrice(1, "-3");
         QCOMPARE(pricing->priceItems()[1]->price(), 3.0);
     }
 
@@ -91,11 +65,9 @@ private slots:
         auto other = std::make_shared<ZOLPricing>();
         ZOLPricingWindowController window(other);
         {
-            ZOLFilePanels::setScript([&path](const ZOLFilePanels::Request& request) {
-                return request.suffix == "zp" ? QStringList{path} : QStringList{};
-            });
+            ScriptedPanels panels({path});
             window.openPricing();
-            ZOLFilePanels::setScript({});
+            QCOMPARE(panels.requests, QStringList{"Open Price List *.zp"});
         }
         QVERIFY(alerts->alerts.empty());
         QCOMPARE(other->priceItems().size(), size_t(44));
@@ -110,27 +82,25 @@ private slots:
         auto pricing = std::make_shared<ZOLPricing>();
         ZOLPricingWindowController window(pricing);
 
-        const QString picture = dir.filePath("photo.zp");
-        writeAll(picture, QByteArray("\x89PNG\r\n\x1a\n\0\0", 10));
-        window.openPricingFile(picture);
+        const auto open = [&](const char* name, const QByteArray& bytes) {
+            writeAll(dir.filePath(name), bytes);
+            window.openPricingFile(dir.filePath(name));
+        };
+        open("photo.zp", QByteArray("\x89PNG\r\n\x1a\n\0\0", 10));
         QCOMPARE(alerts->alerts.back().message,
                  std::string("There was an error opening the file. The file may be corrupted "
                              "or of the wrong format."));
         QCOMPARE(pricing->priceItems().size(), size_t(44));
 
         // A file without a price list leaves the list alone.
-        const QString none = dir.filePath("none.zp");
-        writeAll(none, "<?xml version=\"1.0\"?>\n<Pricing></Pricing>");
-        window.openPricingFile(none);
+        open("none.zp", "<?xml version=\"1.0\"?>\n<Pricing></Pricing>");
         QCOMPARE(alerts->alerts.size(), size_t(1));
         QCOMPARE(pricing->priceItems().size(), size_t(44));
 
         // A broken one keeps the items read before the break.
-        const QString broken = dir.filePath("broken.zp");
-        writeAll(broken, "<Pricing><PriceItems><PriceItem><PartSize>Eight</PartSize>"
-                         "<PartType>Straight</PartType><Price>9.50</Price></PriceItem>"
-                         "<PriceItem><Price>1</Pri");
-        window.openPricingFile(broken);
+        open("broken.zp", "<Pricing><PriceItems><PriceItem><PartSize>Eight</PartSize>"
+                          "<PartType>Straight</PartType><Price>9.50</Price></PriceItem>"
+                          "<PriceItem><Price>1</Pri");
         QCOMPARE(alerts->alerts.back().message,
                  std::string("There was an error opening the file."));
         QCOMPARE(pricing->priceItems().size(), size_t(1));
@@ -138,9 +108,8 @@ private slots:
 
         // Cancelling the panel still reloads the table from the list.
         pricing->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
-        ZOLFilePanels::setScript([](const ZOLFilePanels::Request&) { return QStringList{}; });
+        ScriptedPanels cancelled({});
         window.openPricing();
-        ZOLFilePanels::setScript({});
         QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 2);
     }
 };

@@ -2,28 +2,20 @@
 #include "platform/ZOLPreferences.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
 
-#include <QCheckBox>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QtTest>
+#include "UiTestSupport.h"
 
 namespace {
-const char* kBoxes[] = {
-    "printWallCheckbox",    "printOpeningsCheckbox",   "printConcreteCheckbox",
-    "printRebarCheckbox",   "printTiltCheckbox",       "printManHourCheckbox",
-    "printSummaryCheckbox", "printJobSummaryCheckbox", "printProjectNotesCheckbox"};
-
-QString pageCount(ZOLPrintSettingsWindowController& window) {
-    return window.findChild<QLabel*>("pageCount")->text();
+QString pageCount(QWidget& window) {
+    return control<QLabel>(&window, "pageCount")->text();
 }
 
-void click(QWidget& window, const char* name) {
-    auto* button = window.findChild<QAbstractButton*>(name);
-    QVERIFY2(button, name);
-    // On the box or the dot itself: a check box spans its column but reacts only to its box
-    // and its label.
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+// Clicks the named boxes and buttons in turn, on the box or the dot itself: a check box spans its
+// column but reacts only to its box and its label.
+void click(QWidget& window, const QString& names) {
+    for (const QString& name : names.split(' ')) {
+        auto* button = control<QAbstractButton>(&window, name);
+        QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(6, button->height() / 2));
+    }
 }
 } // namespace
 
@@ -43,19 +35,17 @@ private slots:
 
         click(window, "printManHourCheckbox");
         QCOMPARE(pageCount(window), QString("Page Count: 2")); // man hours take two pages
-        for (const char* box : kBoxes)
-            if (std::string(box) != "printManHourCheckbox")
-                click(window, box);
+        click(window, "printWallCheckbox printOpeningsCheckbox printConcreteCheckbox "
+                      "printRebarCheckbox printTiltCheckbox printSummaryCheckbox "
+                      "printJobSummaryCheckbox printProjectNotesCheckbox");
         QCOMPARE(pageCount(window), QString("Page Count: 10"));
         click(window, "allWorksheets");
         QCOMPARE(pageCount(window), QString("Page Count: 24"));
         QCOMPARE(window.getPageCount(), 24);
 
         // Only the summary pages: three, whatever the worksheets.
-        for (const char* box :
-             {"printWallCheckbox", "printOpeningsCheckbox", "printConcreteCheckbox",
-              "printRebarCheckbox", "printTiltCheckbox", "printManHourCheckbox"})
-            click(window, box);
+        click(window, "printWallCheckbox printOpeningsCheckbox printConcreteCheckbox "
+                      "printRebarCheckbox printTiltCheckbox printManHourCheckbox");
         QCOMPARE(pageCount(window), QString("Page Count: 3"));
         window.setNumberOfWorksheets(7);
         QCOMPARE(pageCount(window), QString("Page Count: 3"));
@@ -66,9 +56,7 @@ private slots:
         {
             ZOLPrintSettingsWindowController window(nullptr, preferences);
             window.show();
-            click(window, "printWallCheckbox");
-            click(window, "allWorksheets");
-            click(window, "cancelButton");
+            click(window, "printWallCheckbox allWorksheets cancelButton");
             QVERIFY(!window.acceptChanges());
             QVERIFY(!preferences->boolForKey("PrintWall"));
             QVERIFY(!preferences->boolForKey("PrintAllWorksheets"));
@@ -77,10 +65,7 @@ private slots:
             ZOLPrintSettingsWindowController window(nullptr, preferences);
             window.show();
             QVERIFY(!window.findChild<QCheckBox*>("printWallCheckbox")->isChecked());
-            click(window, "printWallCheckbox");
-            click(window, "printProjectNotesCheckbox");
-            click(window, "allWorksheets");
-            click(window, "acceptButton");
+            click(window, "printWallCheckbox printProjectNotesCheckbox allWorksheets acceptButton");
             QVERIFY(window.acceptChanges());
             const auto settings = window.getZolPrintSettings();
             QCOMPARE(settings.size(), size_t(10));

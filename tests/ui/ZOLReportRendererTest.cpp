@@ -1,53 +1,18 @@
 // The report renderer: report text in, PDF sheets out, with the report's user texts kept from
 // running script or reaching the network.
 #include "ui/ZOLReportRenderer.h"
+#include "UiTestSupport.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
 #include "report/ZOLPrintSettings.h"
 
-#include <QApplication>
-#include <QEventLoop>
-#include <QFile>
 #include <QPrinter>
-#include <QProcess>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTemporaryDir>
-#include <QTimer>
 #include <QWebEnginePage>
-#include <QtTest>
-
-#include <string>
 
 namespace {
-
-// A listener on the loopback interface that counts every connection made to it.
-class Listener {
-public:
-    Listener() {
-        server_.listen(QHostAddress::LocalHost, 0);
-        QObject::connect(&server_, &QTcpServer::newConnection, [this] {
-            while (QTcpSocket* socket = server_.nextPendingConnection()) {
-                ++connections_;
-                socket->close();
-            }
-        });
-    }
-    std::string base() const { return "http://127.0.0.1:" + std::to_string(server_.serverPort()); }
-    bool listening() const { return server_.isListening(); }
-    int connections() const { return connections_; }
-
-private:
-    QTcpServer server_;
-    int connections_ = 0;
-};
-
-void settle(int milliseconds) {
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 std::string pages(int count) {
     std::string html = ZOLPrintData::getHeaderHTML();
@@ -55,19 +20,6 @@ std::string pages(int count) {
         html += "<div class=\"page\">\n<div class=\"content notes\">\n<h1>Page " +
                 std::to_string(i) + "</h1>\n</div>\n</div>\n";
     return html + ZOLPrintData::getFooterHTML();
-}
-
-// The number of sheets pdfinfo counts in a PDF file; -1 when it cannot tell.
-int sheetCount(const QString& pdfPath) {
-    QProcess pdfinfo;
-    pdfinfo.start(QStringLiteral("pdfinfo"), {pdfPath});
-    if (!pdfinfo.waitForFinished(30000) || pdfinfo.exitCode() != 0)
-        return -1;
-    const QString out = QString::fromUtf8(pdfinfo.readAllStandardOutput());
-    static const QRegularExpression line(QStringLiteral("^Pages:\\s+(\\d+)$"),
-                                         QRegularExpression::MultilineOption);
-    const auto match = line.match(out);
-    return match.hasMatch() ? match.captured(1).toInt() : -1;
 }
 
 QString resources() {
@@ -81,9 +33,17 @@ class ZOLReportRendererTest : public QObject {
 
 private slots:
     void markupInUserTextNeitherRunsNorReachesTheNetwork() {
-        Listener listener;
-        QVERIFY(listener.listening());
-        const std::string remote = listener.base();
+        // A listener on the loopback interface counts every connection made to it.
+        QTcpServer listener;
+        QVERIFY(listener.listen(QHostAddress::LocalHost, 0));
+        int connections = 0;
+        QObject::connect(&listener, &QTcpServer::newConnection, [&] {
+            while (QTcpSocket* socket = listener.nextPendingConnection()) {
+                ++connections;
+                socket->close();
+            }
+        });
+        const std::string remote = "http://127.0.0.1:" + std::to_string(listener.serverPort());
         // What a workbook from someone else could carry in its names and notes.
         auto workbook = std::make_shared<ZOLWorkbook>();
         workbook->setProjectName("<script>document.title='script ran'; new Image().src='" + remote +
@@ -111,9 +71,9 @@ private slots:
         ZOLReportRenderer renderer(resources());
         QString error;
         const QByteArray pdf = renderer.renderPdfAndWait(html, &error);
-        settle(300); // a refresh or a late image would have been asked for by now
+        QTest::qWait(300); // a refresh or a late image would have been asked for by now
         QVERIFY2(pdf.startsWith("%PDF"), qPrintable(error));
-        QCOMPARE(listener.connections(), 0);
+        QCOMPARE(connections, 0);
         QVERIFY(renderer.page()->title() != QStringLiteral("script ran"));
         // Remote images and style sheets may already be dropped by the engine as insecure
         // content; a file outside the resources folder and the frame are refused by the guards.
@@ -130,21 +90,14 @@ private slots:
         // zolest's PDF path: the report built by the core, rendered by zolest-render.
         QTemporaryDir dir;
         const QString sample = QStringLiteral(ZOL_SOURCE_DIR "/examples/sample-house.zol");
-        const QString html = dir.filePath(QStringLiteral("sample.html"));
-        const QString pdf = dir.filePath(QStringLiteral("sample.pdf"));
-        QProcess zolest;
-        zolest.start(QStringLiteral(ZOLEST_PATH),
-                     {QStringLiteral("report"), sample, QStringLiteral("-o"), html});
-        QVERIFY(zolest.waitForFinished(60000));
-        QCOMPARE(zolest.exitCode(), 0);
-        zolest.start(QStringLiteral(ZOLEST_PATH),
-                     {QStringLiteral("report"), sample, QStringLiteral("-o"), pdf});
-        QVERIFY(zolest.waitForFinished(120000));
-        QVERIFY2(zolest.exitCode() == 0, zolest.readAllStandardError().constData());
-        QFile file(html);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const int divs =
-            QString::fromUtf8(file.readAll()).count(QStringLiteral("<div class=\"page\">"));
+        const QString html = dir.filePath("sample.html"), pdf = dir.filePath("sample.pdf");
+        for (const QString& out : {html, pdf}) {
+            QProcess zolest;
+            zolest.start(QStringLiteral(ZOLEST_PATH), {"report", sample, "-o", out});
+            QVERIFY(zolest.waitForFinished(120000));
+            QVERIFY2(zolest.exitCode() == 0, zolest.readAllStandardError().constData());
+        }
+        const int divs = QString::fromUtf8(readAll(html)).count("<div class=\"page\">");
         QVERIFY(divs > 1);
         QCOMPARE(sheetCount(pdf), divs);
     }

@@ -1,22 +1,11 @@
 // The Wall tab driven through its widgets: typing, combo boxes, check boxes, steppers,
 // enabling by block size and the information pop-up.
 #include "ui/ZOLWallEntryViewController.h"
+#include "UiTestSupport.h"
 #include "calc/ZOLCalculatorMaster.h"
 #include "model/ZOLWall.h"
 #include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLStepper.h"
-
-#include <QApplication>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTimer>
-#include <QToolButton>
-#include <QtTest>
-
-#include <memory>
-#include <tuple>
 
 class ZOLWallEntryViewControllerTest : public QObject {
     Q_OBJECT
@@ -24,27 +13,9 @@ class ZOLWallEntryViewControllerTest : public QObject {
     std::unique_ptr<ZOLWallEntryViewController> screen;
     std::shared_ptr<ZOLWall> wall;
 
-    template <typename T> T* control(const char* name) {
-        T* widget = screen->findChild<T*>(QLatin1String(name));
-        if (!widget)
-            qFatal("no control %s", name);
-        return widget;
-    }
+    template <typename T> T* control(const char* name) { return ::control<T>(screen.get(), name); }
     QLineEdit* field(const char* name) { return control<QLineEdit>(name); }
     QComboBox* box(const char* name) { return control<QComboBox>(name); }
-
-    // Replaces a field's text by typing, one keystroke at a time, as a user would.
-    static void type(QLineEdit* edit, const QString& keys) {
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        QTest::keyClicks(edit, keys);
-    }
-    // What the combo box's pop-up does when the user picks an item.
-    static void choose(QComboBox* combo, int index) {
-        combo->setCurrentIndex(index);
-        emit combo->activated(index);
-    }
 
 private slots:
     void init() {
@@ -59,18 +30,15 @@ private slots:
 
     void typingCleansTheFieldAndWritesTheWall() {
         QLineEdit* length = field("wallLength");
-        type(length, "12a");
-        QCOMPARE(length->text(), QString("12"));
-        QCOMPARE(wall->wallLength(), 12.0);
-
-        type(length, "a");
-        QCOMPARE(length->text(), QString("0"));
-        QCOMPARE(wall->wallLength(), 0.0);
-
-        // Not a number as a whole, but only digits and full stops: kept, read as far as it goes.
-        type(length, "1.2.3");
-        QCOMPARE(length->text(), QString("1.2.3"));
-        QCOMPARE(wall->wallLength(), 1.2);
+        // "1.2.3" is not a number as a whole, but only digits and full stops: kept, read as far
+        // as it goes.
+        const std::tuple<const char*, const char*, double> keystrokes[] = {
+            {"12a", "12", 12.0}, {"a", "0", 0.0}, {"1.2.3", "1.2.3", 1.2}};
+        for (const auto& [keys, shown, value] : keystrokes) {
+            type(length, keys);
+            QCOMPARE(length->text(), QString(shown));
+            QCOMPARE(wall->wallLength(), value);
+        }
 
         // A letter typed in the middle leaves the cursor where it was.
         type(length, "125");
@@ -172,7 +140,6 @@ private slots:
         wall->setBlockSize(7);
         screen->loadValues();
         QCOMPARE(box("blockSize")->currentIndex(), -1);
-        QCOMPARE(box("blockSize")->currentText(), QString());
     }
 
     void comboBoxesMapTheirItems() {
@@ -197,7 +164,6 @@ private slots:
         wall->setRadius(4);
         screen->loadValues();
         QCOMPARE(box("radius")->currentIndex(), -1);
-        QCOMPARE(box("radius")->currentText(), QString());
     }
 
     void wallHeightShowsSixteenInchCourses() {
@@ -290,17 +256,13 @@ private slots:
 
     void infoButtonsOpenTheirIllustration() {
         QStringList shown;
-        auto closeWhenShown = [&shown] {
-            auto* popup = qobject_cast<ZOLInfoPopup*>(QApplication::activeModalWidget());
-            if (!popup) {
-                shown << "(none)";
-                return;
-            }
-            shown << QString::fromStdString(popup->imageName().value_or("(no image)"));
-            popup->reject();
-        };
         for (const char* name : {"wallHeightInfo", "cornerInfo", "angleInfo", "extendersInfo"}) {
-            QTimer::singleShot(0, closeWhenShown);
+            whenModalShows([&shown](QWidget* modal) {
+                auto* popup = qobject_cast<ZOLInfoPopup*>(modal);
+                shown << (popup ? QString::fromStdString(popup->imageName().value_or("(no image)"))
+                                : QString("(no picture)"));
+                modal->close();
+            });
             control<QToolButton>(name)->click();
         }
         QCOMPARE(shown, QStringList({"Wall_Height_Info", "In_Out_Corners_Info", "Angle_Info",

@@ -1,12 +1,7 @@
 // The Wall Info tab: the title and the texts of the wall's values.
 #include "ui/ZOLWallInfoViewController.h"
+#include "UiTestSupport.h"
 #include "model/ZOLWall.h"
-
-#include <QLabel>
-#include <QLineEdit>
-#include <QtTest>
-
-#include <memory>
 
 class ZOLWallInfoViewControllerTest : public QObject {
     Q_OBJECT
@@ -14,12 +9,6 @@ class ZOLWallInfoViewControllerTest : public QObject {
     std::unique_ptr<ZOLWallInfoViewController> screen;
     std::shared_ptr<ZOLWall> wall;
 
-    QString text(const char* name) {
-        auto* edit = screen->findChild<QLineEdit*>(QLatin1String(name));
-        if (!edit)
-            qFatal("no field %s", name);
-        return edit->text();
-    }
     QString title() { return screen->findChild<QLabel*>("pageTitle")->text(); }
 
 private slots:
@@ -42,17 +31,10 @@ private slots:
 
     void clearedWallShowsZeros() {
         screen->loadValues();
-        QCOMPARE(text("blockSize"), QString("8\""));
-        QCOMPARE(text("wallHeight"), QString("8' 0\""));
-        QCOMPARE(text("rows"), QString("6"));
-        QCOMPARE(text("wallLength"), QString("0.00"));
-        QCOMPARE(text("insideCornerLocations"), QString("0"));
-        QCOMPARE(text("lfInsideCorners"), QString("0' 0\""));
-        QCOMPARE(text("trucks"), QString("0.00"));
-        QCOMPARE(text("concrete"), QString("0.00 Y   0.00 M"));
-        QCOMPARE(text("bracing"), QString("0"));
-        QCOMPARE(text("radius"), QString("@ 10 foot radius"));
-        QCOMPARE(text("pelmoPerBlock"), QString("0"));
+        expectTexts(screen.get(),
+                    "blockSize=8\"|wallHeight=8' 0\"|rows=6|wallLength=0.00|"
+                    "insideCornerLocations=0|lfInsideCorners=0' 0\"|trucks=0.00|"
+                    "concrete=0.00 Y   0.00 M|bracing=0|radius=@ 10 foot radius|pelmoPerBlock=0");
     }
 
     void wallValuesShowInTheirFormats() {
@@ -68,24 +50,14 @@ private slots:
         wall->setPelmoBrickLength(30.0);
         wall->setRadius(12);
         screen->loadValues();
-        // The total height, courses on top included; rows count the base height only.
-        QCOMPARE(text("wallHeight"), QString("8' 8\""));
-        QCOMPARE(text("rows"), QString("6"));
-        // 41.4 inches of inside corner: 3.45 ft, truncated to whole inches.
-        QCOMPARE(text("lfInsideCorners"), QString("3' 5\""));
-        QCOMPARE(text("lfOutsideCorners"), QString("11' 4\""));
-        QCOMPARE(text("lfTBlock"), QString("3' 8\""));
-        QCOMPARE(text("lfCornersAndTs"), QString("18' 5\""));
-        QCOMPARE(text("lfStraightBlock"), QString("81' 6\""));
-        QCOMPARE(text("lfStraightCurbBlock"), QString("10' 6\""));
-        QCOMPARE(text("sqftOpenings"), QString("26.65"));
-        QCOMPARE(text("lfZolBuck"), QString("29' 4\""));
-        QCOMPARE(text("openingsInBlockCount"), QString("4"));
-        QCOMPARE(text("sqftBrick"), QString("60.00"));
-        QCOMPARE(text("radius"), QString("@ 12 foot radius"));
-        QCOMPARE(text("grossSqFt"), QString("866.70"));
-        QCOMPARE(text("netSqFt"), QString("840.05"));
-        QCOMPARE(text("bracing"), QString("17"));
+        // The total height, courses on top included; rows count the base height only. 41.4
+        // inches of inside corner: 3.45 ft, truncated to whole inches.
+        expectTexts(screen.get(),
+                    "wallHeight=8' 8\"|rows=6|lfInsideCorners=3' 5\"|lfOutsideCorners=11' 4\"|"
+                    "lfTBlock=3' 8\"|lfCornersAndTs=18' 5\"|lfStraightBlock=81' 6\"|"
+                    "lfStraightCurbBlock=10' 6\"|sqftOpenings=26.65|lfZolBuck=29' 4\"|"
+                    "openingsInBlockCount=4|sqftBrick=60.00|radius=@ 12 foot radius|"
+                    "grossSqFt=866.70|netSqFt=840.05|bracing=17");
     }
 };
 

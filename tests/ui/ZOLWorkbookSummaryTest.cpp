@@ -1,5 +1,6 @@
 // The workbook summary tab: the job's blocks and accessories priced line by line, the same
 // lines and totals as the printed workbook summary, and the round-to-full-bundles switch.
+#include "UiTestSupport.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
@@ -8,12 +9,6 @@
 #include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLWorkbookSummaryViewController.h"
-
-#include <QCheckBox>
-#include <QLineEdit>
-#include <QSignalSpy>
-#include <QTableWidget>
-#include <QtTest>
 
 namespace {
 void setPrice(ZOLPricing& pricing, int32_t type, int32_t size, double price) {
@@ -90,7 +85,7 @@ private slots:
         QVERIFY(page.find(totals) != std::string::npos);
     }
 
-    void screenShowsTheLinesTheSignAndTheTotals() {
+    void screenShowsTheLinesTheSignTheTotalsAndTheSwitch() {
         const auto workbook = job();
         ZOLWorkbookSummaryViewController screen;
         screen.setWorkbook(workbook);
@@ -108,22 +103,10 @@ private slots:
         QCOMPARE(text(table, rows + 1, 3),
                  QString::fromStdString(ZOLFormat::format("$%.2f", summary.totalCost)));
         QVERIFY(table->item(0, 1)->textAlignment() & Qt::AlignRight);
-        QCOMPARE(
-            screen.findChild<QLineEdit*>("grossSquareFeet")->text(),
-            QString::fromStdString(ZOLFormat::format("%.2f", workbook->getTotalGrossSquareFeet())));
+        expectTexts(&screen, QString::fromStdString(ZOLFormat::format(
+                                 "grossSquareFeet=%.2f", workbook->getTotalGrossSquareFeet())));
 
-        // Without a single block there is nothing to price.
-        workbook->setWorksheets({std::make_shared<ZOLWorksheet>("Empty")});
-        screen.loadValues();
-        QCOMPARE(table->rowCount(), 0);
-        QVERIFY(ZOLWorkbookSummaryViewController::summarize(*workbook).rows.empty());
-    }
-
-    void roundToFullBundlesIsTheWorkbooksSwitch() {
-        const auto workbook = job();
-        ZOLWorkbookSummaryViewController screen;
-        screen.setWorkbook(workbook);
-        screen.loadValues();
+        // Round to full bundles is the workbook's switch; loading is no edit.
         QSignalSpy edited(&screen, &ZOLWorkbookSummaryViewController::edited);
         auto* box = screen.findChild<QCheckBox*>("roundToFullBundles");
         QVERIFY(!box->isChecked());
@@ -134,6 +117,12 @@ private slots:
         screen.loadValues();
         QVERIFY(!box->isChecked());
         QCOMPARE(edited.count(), 1); // loading is no edit
+
+        // Without a single block there is nothing to price.
+        workbook->setWorksheets({std::make_shared<ZOLWorksheet>("Empty")});
+        screen.loadValues();
+        QCOMPARE(table->rowCount(), 0);
+        QVERIFY(ZOLWorkbookSummaryViewController::summarize(*workbook).rows.empty());
     }
 };
 

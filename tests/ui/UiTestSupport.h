@@ -1,0 +1,162 @@
+#pragma once
+// What the window tests share: files, modal windows answered once they show, typing and choosing
+// as a user does, and an alert recorder that also answers the alerts with a text field.
+#include "support/AlertRecorder.h"
+#include "ui/ZOLFieldAlerts.h"
+#include "ui/ZOLFilePanels.h"
+
+#include <QtTest>
+#include <QtWidgets>
+
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+// Settings and standard folders of the test's own, never the user's.
+inline void useTestSettings(const char* application) {
+    QStandardPaths::setTestModeEnabled(true);
+    QApplication::setOrganizationName("Zol Blocks Test");
+    QApplication::setApplicationName(application);
+}
+
+inline QByteArray readAll(const QString& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+inline void writeAll(const QString& path, const QByteArray& bytes) {
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+}
+
+// Runs `act` on the next modal window once it shows (the next one of that name, if given).
+inline void whenModalShows(std::function<void(QWidget*)> act, const QString& name = {}) {
+    auto* timer = new QTimer(qApp);
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, [timer, act, name] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (!modal || (!name.isEmpty() && modal->objectName() != name))
+            return;
+        timer->stop();
+        timer->deleteLater();
+        act(modal);
+    });
+    timer->start();
+}
+
+inline QPushButton* buttonTitled(QWidget* window, const QString& title) {
+    for (auto* button : window->findChildren<QPushButton*>())
+        if (button->text() == title)
+            return button;
+    return nullptr;
+}
+
+template <typename T> T* control(const QObject* parent, const QString& name) {
+    T* widget = parent->findChild<T*>(name);
+    if (!widget)
+        qFatal("no control %s", qPrintable(name));
+    return widget;
+}
+
+// Checks the texts of named fields, given as "name=text|name=text", naming the one that differs.
+inline void expectTexts(const QObject* parent, const QString& texts) {
+    for (const QString& expected : texts.split('|')) {
+        const QString name = expected.section('=', 0, 0);
+        QCOMPARE(name + "=" + control<QLineEdit>(parent, name)->text(), expected);
+    }
+}
+
+// Replaces a field's text by typing, one keystroke at a time, as a user would.
+inline void type(QLineEdit* edit, const QString& keys) {
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, keys);
+}
+
+// What the combo box's pop-up does when the user picks an item.
+inline void choose(QComboBox* combo, int index) {
+    combo->setCurrentIndex(index);
+    emit combo->activated(index);
+}
+
+// Edits a table cell as a user does: open the editor, type, press Return.
+inline void typeInCell(QTableWidget* table, int row, int column, const QString& keys) {
+    table->setCurrentCell(row, column);
+    table->editItem(table->item(row, column));
+    QLineEdit* editor = nullptr;
+    for (auto* candidate : table->viewport()->findChildren<QLineEdit*>())
+        if (candidate->isVisible())
+            editor = candidate; // an earlier cell's editor may still wait to be deleted
+    QVERIFY(editor);
+    editor->selectAll();
+    QTest::keyClicks(editor, keys);
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents(); // the table commits the edit from its event queue
+}
+
+// The number of sheets pdfinfo counts in a PDF file; -1 when it cannot tell.
+inline int sheetCount(const QString& path) {
+    QProcess pdfinfo;
+    pdfinfo.start(QStringLiteral("pdfinfo"), {path});
+    if (!pdfinfo.waitForFinished(30000) || pdfinfo.exitCode() != 0)
+        return -1;
+    const auto match = QRegularExpression(QStringLiteral("^Pages:\\s+(\\d+)$"),
+                                          QRegularExpression::MultilineOption)
+                           .match(QString::fromUtf8(pdfinfo.readAllStandardOutput()));
+    return match.hasMatch() ? match.captured(1).toInt() : -1;
+}
+
+// Answers the save and open panels with the paths given, in order, and records what they
+// were asked for ("title *.suffix").
+class ScriptedPanels {
+public:
+    explicit ScriptedPanels(QStringList answers) : answers_(std::move(answers)) {
+        ZOLFilePanels::setScript([this](const ZOLFilePanels::Request& request) {
+            requests.append(request.title + " *." + request.suffix);
+            return answers_.isEmpty() ? QStringList() : QStringList{answers_.takeFirst()};
+        });
+    }
+    ~ScriptedPanels() { ZOLFilePanels::setScript({}); }
+    QStringList requests;
+
+private:
+    QStringList answers_;
+};
+
+// An alert in one line: "message [button|button] informative text".
+inline QString alertText(const ZOLAlert& alert) {
+    QStringList buttons;
+    for (const auto& button : alert.buttons)
+        buttons << QString::fromStdString(button);
+    return QString::fromStdString(alert.message) + " [" + buttons.join('|') + "] " +
+           QString::fromStdString(alert.informativeText);
+}
+
+// Records every alert and answers with the scripted buttons; a field alert also records the text
+// it was shown with and gets the scripted text typed into it.
+class FieldAlertRecorder : public AlertRecorder, public ZOLFieldAlertPresenter {
+public:
+    int presentWithField(const ZOLAlert& alert, std::string& text, Field) override {
+        shownTexts.push_back(text);
+        if (!texts.empty()) {
+            text = texts.front();
+            texts.pop_front();
+        }
+        return present(alert);
+    }
+    // Answers the next alerts in order: a button index, and for a field alert the text typed.
+    void answer(int button, std::optional<std::string> text = {}) {
+        answers.push_back(button);
+        if (text)
+            texts.push_back(*text);
+    }
+    QString last() const { return alertText(alerts.back()); }
+    std::deque<std::string> texts;
+    std::vector<std::string> shownTexts;
+};
