@@ -8,6 +8,7 @@
 #include <cmath>
 #include <sstream>
 #include <stdexcept>
+#include <utility>
 
 using CM = ZOLCalculatorMaster;
 
@@ -36,30 +37,23 @@ TEST(ZOLCalculatorMaster, HeightListsKeepTheProductsEntries) {
 }
 
 TEST(ZOLCalculatorMaster, FeetToTextTruncates) {
-    EXPECT_EQ(CM::convertFeetToText(8.0), "8' 0\"");
-    EXPECT_EQ(CM::convertFeetToText(1.334), "1' 4\"");
-    EXPECT_EQ(CM::convertFeetToText(2.67), "2' 8\"");
-    EXPECT_EQ(CM::convertFeetToText(9.667), "9' 8\"");
-    EXPECT_EQ(CM::convertFeetToText(11.67), "11' 8\"");
-    EXPECT_EQ(CM::convertFeetToText(2.666), "2' 7\"");
-    EXPECT_EQ(CM::convertFeetToText(0.0), "0' 0\"");
-    EXPECT_EQ(CM::convertFeetToText(42.0), "42' 0\"");
-    EXPECT_EQ(CM::convertFeetToText(3.45), "3' 5\"");
-    EXPECT_EQ(CM::convertFeetToText(-1.5), "-1' -6\"");
-    EXPECT_EQ(CM::convertFeetToText(std::nan("")), "0' 0\"");
-    EXPECT_EQ(CM::convertFeetToText(1e300), "2147483647' 7\"");
+    const std::pair<double, const char*> texts[] = {
+        {8.0, "8' 0\""},    {1.334, "1' 4\""},        {2.67, "2' 8\""},
+        {9.667, "9' 8\""},  {11.67, "11' 8\""},       {2.666, "2' 7\""},
+        {0.0, "0' 0\""},    {42.0, "42' 0\""},        {3.45, "3' 5\""},
+        {-1.5, "-1' -6\""}, {std::nan(""), "0' 0\""}, {1e300, "2147483647' 7\""}};
+    for (const auto& [feet, text] : texts)
+        EXPECT_EQ(CM::convertFeetToText(feet), text) << feet;
 }
 
+// Heights past the list, below its first entry or not a number fall to the last entry.
 TEST(ZOLCalculatorMaster, SnappingFindsTheNearestEntryOrFallsToTheLast) {
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(9.1), 9.334);
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(8.167), 8.0);
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(50.0), 42.0);
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(0.5), 42.0);
-    EXPECT_EQ(CM::convertWallHeightToSixteenInchCompatible(50.0), 41.334);
-    EXPECT_EQ(CM::convertWallHeightToSixteenInchCompatible(0.5), 41.334);
-    EXPECT_EQ(CM::convertWallHeightToSixteenInchCompatible(8.1), 8.0);
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(std::nan("")), 42.0);
-    EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(3.5), 3.0);
+    const std::pair<double, double> four[] = {{9.1, 9.334}, {8.167, 8.0},         {50.0, 42.0},
+                                              {0.5, 42.0},  {std::nan(""), 42.0}, {3.5, 3.0}};
+    for (const auto& [height, snapped] : four)
+        EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(height), snapped) << height;
+    for (const auto& [height, snapped] : {std::pair{50.0, 41.334}, {0.5, 41.334}, {8.1, 8.0}})
+        EXPECT_EQ(CM::convertWallHeightToSixteenInchCompatible(height), snapped) << height;
 }
 
 TEST(ZOLCalculatorMaster, AreasVolumesAndUnits) {

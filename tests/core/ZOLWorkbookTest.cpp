@@ -1,8 +1,8 @@
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWall.h"
-#include "platform/ZOLClock.h"
 #include "support/AlertRecorder.h"
 #include "support/GoldenFile.h"
+#include "support/ScopedClock.h"
 #include "support/ScopedTimeZone.h"
 
 #include <gtest/gtest.h>
@@ -10,16 +10,6 @@
 namespace {
 
 constexpr int64_t kMay2 = 1399041000; // 2014-05-02 09:30:00 in Chicago
-
-class ScopedClock {
-public:
-    explicit ScopedClock(int64_t seconds) {
-        ZOLClock::setSource([seconds] { return seconds; });
-    }
-    ~ScopedClock() { ZOLClock::setSource({}); }
-    ScopedClock(const ScopedClock&) = delete;
-    ScopedClock& operator=(const ScopedClock&) = delete;
-};
 
 std::vector<std::string> names(const ZOLWorkbook& workbook) {
     std::vector<std::string> out;
@@ -30,9 +20,11 @@ std::vector<std::string> names(const ZOLWorkbook& workbook) {
 
 } // namespace
 
-TEST(ZOLWorkbookTest, NewWorkbookHasOneWorksheetAndClearedOneHasNone) {
+TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorksheet) {
+    ScopedTimeZone zone(ScopedTimeZone::kCentral);
     ScopedClock clock(kMay2);
     ZOLWorkbook workbook;
+    EXPECT_EQ(workbook.getXMLString(), goldenFile("new-workbook.zol"));
     EXPECT_EQ(names(workbook), std::vector<std::string>{"Worksheet 1"});
     EXPECT_EQ(workbook.projectDate(), kMay2);
     workbook.pricingData()->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
@@ -68,8 +60,7 @@ TEST(ZOLWorkbookTest, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
     workbook.changeWorksheetNameWithOldName("Garage", "Garage");
     workbook.changeWorksheetNameWithOldName("Garage", "worksheet 1");
     EXPECT_EQ(alerts->alerts.size(), 4U);
-    workbook.changeWorksheetNameWithOldName("garage",
-                                            "Barn"); // no such worksheet
+    workbook.changeWorksheetNameWithOldName("garage", "Barn"); // no such worksheet
     workbook.changeWorksheetNameWithOldName("Garage", "Garage ");
     EXPECT_EQ(names(workbook), (std::vector<std::string>{"Worksheet 1", "worksheet 1", "Garage "}));
     EXPECT_EQ(alerts->alerts.size(), 4U);
@@ -95,12 +86,6 @@ TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
     EXPECT_EQ(workbook.getTotalGrossSquareFeet(), 0.0);
     EXPECT_NE(workbook.getCustomItemTemplateXMLString().find("<Name>Zol Blocks Package</Name>"),
               std::string::npos);
-}
-
-TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFile) {
-    ScopedTimeZone zone(ScopedTimeZone::kCentral);
-    ScopedClock clock(kMay2);
-    EXPECT_EQ(ZOLWorkbook().getXMLString(), goldenFile("new-workbook.zol"));
 }
 
 TEST(ZOLWorkbookTest, ProjectTextsAreWrittenVerbatimAndTheTemplateWrapsEveryLine) {

@@ -1,10 +1,13 @@
 #pragma once
 // A record's element of the workbook file as the reader fills it: the texts handed over code by
 // code, and the codes of the other records, which must change nothing.
+#include "support/GoldenFile.h"
+
 #include <gtest/gtest.h>
 
 #include <climits>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <utility>
@@ -33,4 +36,22 @@ template <class Record> void expectOtherCodesIgnored(Record record, int32_t firs
             record.setValue(std::nullopt, code);
         }
     EXPECT_EQ(record.getXMLString(), before);
+}
+
+// The record's element fresh (xml/NAME-default.xml) and as the reader fills it, then touched by
+// adjust for fields without a code of their own (xml/NAME-filled.xml); other records' codes
+// change nothing and clearing gives the fresh element back. Returns the filled record.
+template <class Record>
+Record expectRecordFile(const std::string& name, const CodeTexts& values, int32_t first,
+                        int32_t last, const std::function<void(Record&)>& adjust = {}) {
+    expectGoldenFile("xml/" + name + "-default.xml", Record().getXMLString());
+    Record record = readRecord<Record>(values);
+    if (adjust)
+        adjust(record);
+    expectGoldenFile("xml/" + name + "-filled.xml", record.getXMLString());
+    expectOtherCodesIgnored(record, first, last);
+    Record cleared = record;
+    cleared.clear();
+    EXPECT_EQ(cleared.getXMLString(), Record().getXMLString()) << name;
+    return record;
 }
