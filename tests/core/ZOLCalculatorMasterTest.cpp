@@ -16,22 +16,20 @@ using CM = ZOLCalculatorMaster;
 // as the product gives them (2.67 beside 10.667); the 4-inch list has gaps below 9' 4".
 TEST(ZOLCalculatorMaster, HeightListsKeepTheProductsEntries) {
     std::ostringstream lists;
-    for (const char* name : {"16", "4"}) {
-        const bool sixteen = name[0] == '1';
-        const auto& heights = sixteen ? CM::getAvailableWallHeightsAtSixteenInches()
-                                      : CM::getAvailableWallHeightsAtFourInches();
+    auto list = [&lists](const char* name, const std::vector<double>& heights,
+                         double (*valueAt)(uint64_t), std::string (*textAt)(uint64_t)) {
         for (uint64_t i = 0; i < heights.size(); ++i) {
             char feet[32];
             *std::to_chars(feet, feet + sizeof feet - 1, heights[i]).ptr = '\0';
-            EXPECT_EQ(sixteen ? CM::getWallHeightValueAtSixteenInchesForIndex(i)
-                              : CM::getWallHeightValueAtFourInchesForIndex(i),
-                      heights[i]);
-            lists << name << "\" " << i << ' ' << feet << ' '
-                  << (sixteen ? CM::getWallHeightTextAtSixteenInchesForIndex(i)
-                              : CM::getWallHeightTextAtFourInchesForIndex(i))
-                  << '\n';
+            EXPECT_EQ(valueAt(i), heights[i]);
+            lists << name << "\" " << i << ' ' << feet << ' ' << textAt(i) << '\n';
         }
-    }
+    };
+    list("16", CM::getAvailableWallHeightsAtSixteenInches(),
+         CM::getWallHeightValueAtSixteenInchesForIndex,
+         CM::getWallHeightTextAtSixteenInchesForIndex);
+    list("4", CM::getAvailableWallHeightsAtFourInches(), CM::getWallHeightValueAtFourInchesForIndex,
+         CM::getWallHeightTextAtFourInchesForIndex);
     expectGoldenFile("wall-heights.txt", lists.str());
     EXPECT_THROW(CM::getWallHeightValueAtSixteenInchesForIndex(31), std::out_of_range);
 }

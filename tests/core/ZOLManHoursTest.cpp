@@ -28,8 +28,7 @@ const CodeTexts kFilled = {{70, "2450.5"}, {71, "14"},       {72, "180.25"}, {73
 } // namespace
 
 TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
-    ZOLManHours h;
-    EXPECT_EQ(h.crewSize(), 6);
+    ZOLManHours h; // a crew of 6, 8 feet high, nothing else
     EXPECT_EQ(h.getCornersAndTsRating() + h.getLinearFeetCorbelCurbTaperedRating() +
                   h.getSquareFeetOfOpeningsRating(),
               3);
@@ -87,9 +86,7 @@ TEST(ZOLManHourCalculator, RateTableByTotalRating) {
 }
 
 TEST(ZOLManHourCalculator, HoursAndDaysInBothForms) {
-    EXPECT_NEAR(Calc::getHoursToCompleteWithRating(30, 1000), 90.0, 1e-9);
-    EXPECT_NEAR(Calc::getDaysToCompleteWithRating(30, 1000, 6), 90.0 / 51.0, 1e-12);
-    EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0);
+    EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0); // no crew
 
     EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(100.5, 1), 101);
     EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(NAN, 1), 0);
@@ -101,24 +98,19 @@ TEST(ZOLManHourCalculator, HoursAndDaysInBothForms) {
 }
 
 TEST(ZOLManHours, TotalAddsEveryRatingOnce) {
-    ZOLManHours h;
-    h.setSquareFeetOfWall(1000);           // wall 4, crew of 6 rates 5
-    h.setCornersAndTs(45);                 // 3
-    h.setSquareFeetOfOpenings(90);         // 5
-    h.setLinearFeetCorbelCurbTapered(150); // 7
-    h.setWallHeight(20);                   // 8
-    h.setRebarComplexity(9);
-    h.setCrewExperience(2);
-    h.setSiteConditions(3);
-    h.setOtherTurns(11);
+    // Through the file's codes: 1000 sq ft of wall (rates 4, and a crew of 6 rates 5), 45 corners
+    // and Ts (3), 90 sq ft of openings (5), 150 ft of corbel, curb and taper (7), 20 ft high (8),
+    // intense rebar (9), a highly experienced crew (2), ideal site (3) and 11 other turns.
+    const CodeTexts rated = {{70, "1000"},    {71, "45"},   {72, "90"},    {73, "150"}, {74, "20"},
+                             {75, "Intense"}, {76, "High"}, {77, "Ideal"}, {78, "11"}};
+    const ZOLManHours h = readRecord<ZOLManHours>(rated);
     EXPECT_EQ(h.getTotalProjectRating(), 4 + 5 + 3 + 5 + 7 + 8 + 9 + 2 + 3 + 11);
 
-    ZOLManHours job; // 1000 sq ft at total 30: 90 hours, 90 / 51 days for six
-    job.setSquareFeetOfWall(1000);
-    job.setOtherTurns(2);
+    // 1000 sq ft at total 30: 90 hours, 90 / 51 days for six.
+    const ZOLManHours job = readRecord<ZOLManHours>({{70, "1000"}, {78, "2"}});
     EXPECT_EQ(job.getTotalProjectRating(), 30);
     EXPECT_NEAR(job.getHoursToComplete(), 90.0, 1e-9);
-    EXPECT_NEAR(job.getDaysToComplete(), 1.7647, 1e-4);
+    EXPECT_NEAR(job.getDaysToComplete(), 90.0 / 51.0, 1e-12);
 }
 
 TEST(ZOLManHours, AbsurdCountsWrapInsteadOfOverflowing) {

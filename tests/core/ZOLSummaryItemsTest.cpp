@@ -4,6 +4,7 @@
 #include "model/ZOLTilt.h"
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
@@ -150,23 +151,17 @@ TEST_F(JobSummaryTest, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
 }
 
 TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden) {
-    auto rebar = [&](std::size_t i) -> ZOLRebar& { return *sheet(i).rebarData(); };
-    rebar(0).setWallLength(100.0);
-    rebar(0).setHorizontalRowCount1(2);
-    rebar(0).setHorizontalLap1(30); // 220 feet of size 1
-    rebar(0).setVerticalSize(3);
-    rebar(0).setVerticalSpacing(24); // 400 feet of size 3
-    rebar(1).setWallLength(50.0);
-    rebar(1).setHorizontalSize1(3);
-    rebar(1).setHorizontalRowCount1(1); // 50 feet of size 3
-    rebar(2).setMeasurement(1);
-    rebar(2).setWallLength(40.0);
-    rebar(2).setHorizontalRowCount1(2); // 80 feet of size 1
-    rebar(2).setVerticalSize(4);
-    rebar(2).setVerticalSpacing(12); // 320 feet of size 4, past the metric list
-    rebar(3).setWallLength(10.0);
-    rebar(3).setHorizontalSize2(5);
-    rebar(3).setHorizontalRowCount2(1); // 10 feet of size 5, past the imperial list
+    // North: 220 feet of size 1 (two rows lapped 30") and 400 of size 3 (every 24"); South: 50
+    // feet of size 3; Garage, metric: 80 feet of size 1 and 320 of size 4, past the metric list;
+    // Porch: 10 feet of size 5, past the imperial list. Entered through the file's codes: 29 the
+    // units, 30 the length, 31 to 33 and 34 to 36 the two horizontal sizes, rows and laps, 38 and
+    // 39 the vertical size and spacing.
+    const CodeTexts bars[] = {{{30, "100"}, {32, "2"}, {33, "30"}, {38, "3"}, {39, "24"}},
+                              {{30, "50"}, {31, "3"}, {32, "1"}},
+                              {{29, "Metric"}, {30, "40"}, {32, "2"}, {38, "4"}, {39, "12"}},
+                              {{30, "10"}, {34, "5"}, {35, "1"}}};
+    for (std::size_t i = 0; i < 4; ++i)
+        *sheet(i).rebarData() = readRecord<ZOLRebar>(bars[i]);
     const auto lines =
         ZOLWorkbook::getRebarSummaryItemsForRebars(each(&ZOLWorksheet::rebarData), true);
     // Per record, imperial before metric, by size; sizes past a list have no name.
@@ -197,17 +192,13 @@ TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden
 }
 
 TEST_F(JobSummaryTest, ConcreteLinesPerUnitSystemAndPour) {
-    for (std::size_t i : {0U, 2U}) {
-        auto& footing = *sheet(i).concreteData();
-        footing.setMeasurement(i == 2 ? 1 : 0);
-        footing.setFootingLength(100.0);
-        footing.setFootingWidth(20);
-        footing.setFootingDepth(10);
-    }
-    auto& south = *sheet(1).concreteData();
-    south.setWallLength(100.0);
-    south.setWallThickness(6);
-    south.setWallHeight(8.0);
+    // Footings of 100 ft by 20" by 10" on North and, metric, on Garage; 100 ft of wall 6" thick
+    // and 8 ft high on South (codes 11 the units, 12 to 14 the footing, 21 to 23 the wall).
+    const CodeTexts footing = {{12, "20"}, {13, "100"}, {14, "10"}};
+    *sheet(0).concreteData() = readRecord<ZOLConcrete>(footing);
+    *sheet(2).concreteData() = readRecord<ZOLConcrete>(footing);
+    sheet(2).concreteData()->setMeasurement(1);
+    *sheet(1).concreteData() = readRecord<ZOLConcrete>({{21, "100"}, {22, "6"}, {23, "8"}});
     const auto lines =
         ZOLWorkbook::getConcreteSummaryItemsWithConcretes(each(&ZOLWorksheet::concreteData), true);
     ASSERT_EQ(lines.size(), 3U);
@@ -223,16 +214,12 @@ TEST_F(JobSummaryTest, ConcreteLinesPerUnitSystemAndPour) {
 }
 
 TEST_F(JobSummaryTest, TiltAndManHourLinesAreUpdatedNotDuplicated) {
-    sheet(0).tiltData()->setWallLength(100.0);
-    sheet(0).tiltData()->setWallHeight(10.0); // 190 panels, 570 inserts
-    auto& a = *sheet(0).manHourData();
-    auto& b = *sheet(1).manHourData();
-    a.setSquareFeetOfWall(2400.0);
-    a.setLaborCost(30.0);
-    b.setSquareFeetOfWall(800.0);
-    b.setLaborCost(45.0);
-    const double ha = a.getHoursToComplete();
-    const double hb = b.getHoursToComplete();
+    // 100 by 10 ft of tilt-up (190 panels, 570 inserts); 2400 sq ft at $30 and 800 at $45.
+    *sheet(0).tiltData() = readRecord<ZOLTilt>({{43, "10"}, {44, "100"}});
+    *sheet(0).manHourData() = readRecord<ZOLManHours>({{70, "2400"}, {79, "30"}});
+    *sheet(1).manHourData() = readRecord<ZOLManHours>({{70, "800"}, {79, "45"}});
+    const double ha = sheet(0).manHourData()->getHoursToComplete();
+    const double hb = sheet(1).manHourData()->getHoursToComplete();
 
     workbook.generateCustomItems();
     workbook.generateCustomItems();
@@ -252,34 +239,28 @@ TEST_F(JobSummaryTest, TiltAndManHourLinesAreUpdatedNotDuplicated) {
 }
 
 TEST(ZOLSummaryItemsTest, LabourRateAveragesWithoutDividingByNothing) {
-    auto record = [](double sqft, double cost) {
-        auto m = std::make_shared<ZOLManHours>();
-        m->setSquareFeetOfWall(sqft);
-        m->setLaborCost(cost);
-        return m;
+    // The line for two worksheets' labour, given each one's square feet and rate.
+    auto summary = [](double sqft1, double cost1, double sqft2, double cost2) {
+        std::vector<std::shared_ptr<ZOLManHours>> records;
+        for (const auto& [sqft, cost] : {std::pair{sqft1, cost1}, {sqft2, cost2}}) {
+            records.push_back(std::make_shared<ZOLManHours>());
+            records.back()->setSquareFeetOfWall(sqft);
+            records.back()->setLaborCost(cost);
+        }
+        return ZOLWorkbook::getManHourSummaryItemWithManHours(records, true);
     };
-    EXPECT_EQ(
-        ZOLWorkbook::getManHourSummaryItemWithManHours({record(2400, 0), record(800, 0)}, true)
-            ->cost(),
-        0.0);
-    const Line idle =
-        ZOLWorkbook::getManHourSummaryItemWithManHours({record(0, 30), record(0, 45)}, true);
-    expectLine(idle, "ManHours", "Total Man Hours", "Hours", 0.0, 0.0, false);
-    // Hours that cancel out below nothing: the plain average of the rates.
-    const auto small = record(500, 10);
-    const auto negative = record(-5000, 20);
-    ASSERT_LT(small->getHoursToComplete() + negative->getHoursToComplete(), 0.0);
-    EXPECT_DOUBLE_EQ(
-        ZOLWorkbook::getManHourSummaryItemWithManHours({small, negative}, true)->cost(), 15.0);
+    EXPECT_EQ(summary(2400, 0, 800, 0)->cost(), 0.0);
+    expectLine(summary(0, 30, 0, 45), "ManHours", "Total Man Hours", "Hours", 0.0, 0.0, false);
+    // Hours that cancel out below nothing (500 and -5000 sq ft): the plain average of the rates.
+    EXPECT_DOUBLE_EQ(summary(500, 10, -5000, 20)->cost(), 15.0);
 }
 
 TEST_F(JobSummaryTest, AbsurdEntriesNeitherOverflowNorStopTheSummary) {
     wall(0).setWallLength(1e300); // counts saturate; their sums wrap instead of overflowing
     wall(2).setWallLength(1e300);
-    sheet(0).rebarData()->setWallLength(100.0);
-    sheet(0).rebarData()->setVerticalSpacing(6); // infinitely many feet
-    sheet(1).manHourData()->setSquareFeetOfWall(1e308);
-    sheet(1).manHourData()->setLaborCost(1e308);
+    // A vertical spacing of 6" gives infinitely many feet of steel.
+    *sheet(0).rebarData() = readRecord<ZOLRebar>({{30, "100"}, {39, "6"}});
+    *sheet(1).manHourData() = readRecord<ZOLManHours>({{70, "1e308"}, {79, "1e308"}});
     workbook.generateCustomItems();
     EXPECT_EQ(workbook.customItems()[0]->calculatorType(), "Wall");
     EXPECT_EQ(linesOf(workbook, "Rebar").size(), 1U);

@@ -24,10 +24,11 @@ std::string exact(double value) {
 // narrow gauge only for 4" and 6" (every other size value, 14 or INT_MIN alike, is the wide one),
 // and straight, corner and accessories "made" in any size value with zeros in the tables.
 TEST(ZOLWallData, EveryCellOfTheCatalogue) {
+    const int32_t types[] = {INT_MIN, -1, 0,  1,  2,  3,  4,  5,  6,  7,  8,
+                             9,       10, 11, 12, 13, 14, 15, 16, 17, 18, INT_MAX};
     std::ostringstream table;
     table << "type size valid sqft weight bundle trailer length height\n";
-    for (int32_t type :
-         {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, INT_MAX})
+    for (int32_t type : types)
         for (int32_t size : {INT_MIN, 0, 4, 5, 6, 8, 10, 12, 14, INT_MAX})
             table << type << ' ' << size << ' ' << WD::getValidSizeWithBlockType(type, size) << ' '
                   << exact(WD::getSquareFeetWithBlockType(type, size)) << ' '
@@ -37,8 +38,7 @@ TEST(ZOLWallData, EveryCellOfTheCatalogue) {
                   << exact(WD::getLengthWithBlockType(type, size)) << ' '
                   << exact(WD::getHeightWithBlockType(type, size)) << '\n';
     table << "type name key\n";
-    for (int32_t type :
-         {INT_MIN, -1, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, INT_MAX}) {
+    for (int32_t type : types) {
         const auto key = WD::getBasicPartStringWithBlockType(type);
         table << type << " \"" << WD::getPartNameWithBlockType(type).value_or("(absent)") << "\" \""
               << key.value_or("(absent)") << "\"\n";

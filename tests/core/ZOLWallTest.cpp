@@ -33,6 +33,14 @@ double everyQuery(const ZOLWall& w) {
     return sum;
 }
 
+// The trucks for count bundles in one of the fifteen positions of the load.
+double trucks(int32_t size, int position, int32_t count) {
+    int32_t b[15] = {};
+    b[position] = count;
+    return WC::calculateTrucksWithBlockSize(size, b[0], b[1], b[2], b[3], b[4], b[5], b[6], b[7],
+                                            b[8], b[9], b[10], b[11], b[12], b[13], b[14]);
+}
+
 // Codes 45 to 69 as the file reader hands them over, in file order.
 const CodeTexts kFilled = {
     {45, "Twelve"}, {46, "10.667"}, {47, "123.25"}, {48, "2"},    {49, "3"},
@@ -45,7 +53,6 @@ const CodeTexts kFilled = {
 
 TEST(ZOLWall, ClearedWallOrdersNothing) {
     ZOLWall wall;
-    EXPECT_EQ(wall.wastePercentage(), 0.02);
     EXPECT_EQ(wall.getRows(), 6);
     EXPECT_EQ(wall.getStraightBlocks() + wall.getCornerBlocks() + wall.getHVClips() +
                   wall.getBracing(),
@@ -139,17 +146,16 @@ TEST(ZOLWall, SpecialCoursesOnlyInTheirSizes) {
     wall.setLinearFeetCorbel(10);
     wall.setLinearFeetTapered(7);
     wall.setLinearFeetCurb(9);
-    EXPECT_EQ(wall.getCorbelBlocks(), 3);
-    EXPECT_EQ(wall.getTaperedBlocks(), 2);
-    EXPECT_EQ(wall.getStraightCurbBlocks(), 3);
-    EXPECT_EQ(wall.getPravexes(), 3); // counted along the corbel, ticked or not
-    wall.setBlockSize(10);
-    EXPECT_EQ(wall.getCorbelBlocks(), 0);
-    EXPECT_EQ(wall.getTaperedBlocks(), 0);
-    EXPECT_EQ(wall.getStraightCurbBlocks(), 3);
-    EXPECT_EQ(wall.getPravexes(), 3);
-    wall.setBlockSize(12);
-    EXPECT_EQ(wall.getStraightCurbBlocks(), 0);
+    // Size, then corbel, tapered and curb blocks; pravexes are counted along the corbel in
+    // every size, ticked or not.
+    const int32_t bySize[][4] = {{8, 3, 2, 3}, {10, 0, 0, 3}, {12, 0, 0, 0}};
+    for (const auto& [size, corbel, tapered, curb] : bySize) {
+        wall.setBlockSize(size);
+        EXPECT_EQ(wall.getCorbelBlocks(), corbel) << size;
+        EXPECT_EQ(wall.getTaperedBlocks(), tapered) << size;
+        EXPECT_EQ(wall.getStraightCurbBlocks(), curb) << size;
+        EXPECT_EQ(wall.getPravexes(), 3) << size;
+    }
 
     wall.setPelmoBrickHeight(2.6);
     wall.setPelmoBrickLength(10);
@@ -157,10 +163,10 @@ TEST(ZOLWall, SpecialCoursesOnlyInTheirSizes) {
         EXPECT_EQ(WC::calculatePelmosWithBrickHeight(2.6, 10, perBlock), 15) << perBlock;
     wall.setPelmoPerBlock(2);
     EXPECT_EQ(wall.getPelmos(), 10);
-    wall.setLinearFeetBuck(39.5);
-    EXPECT_EQ(wall.getZolBuck(), 10);
-    wall.setLinearFeetBuck(39.6);
-    EXPECT_EQ(wall.getZolBuck(), 11);
+    for (const auto& [feet, buck] : {std::pair{39.5, 10}, {39.6, 11}}) {
+        wall.setLinearFeetBuck(feet);
+        EXPECT_EQ(wall.getZolBuck(), buck) << feet;
+    }
 }
 
 TEST(ZOLWall, OpeningsReplaceEightyFivePercentOfTheirBlocks) {
@@ -216,22 +222,12 @@ TEST(ZOLWall, ClipsBundlesAndTrucks) {
     const double units8[15] = {55, 55, 41, 41, 53, 41, 55, 55, 54, 55, 0, 14, 17, 11, 17};
     const double units6[15] = {46, 46, 53, 53, 40, 41, 0, 0, 46, 46, 39, 12, 17, 11, 17};
     for (int k = 0; k < 15; ++k) {
-        int32_t b[15] = {};
-        b[k] = 1;
-        auto trucks = [&b](int32_t size) {
-            return WC::calculateTrucksWithBlockSize(size, b[0], b[1], b[2], b[3], b[4], b[5], b[6],
-                                                    b[7], b[8], b[9], b[10], b[11], b[12], b[13],
-                                                    b[14]);
-        };
-        EXPECT_DOUBLE_EQ(trucks(8), units8[k] / 2520.0) << "position " << k;
-        EXPECT_DOUBLE_EQ(trucks(6), units6[k] / 2520.0) << "position " << k;
+        EXPECT_DOUBLE_EQ(trucks(8, k, 1), units8[k] / 2520.0) << "position " << k;
+        EXPECT_DOUBLE_EQ(trucks(6, k, 1), units6[k] / 2520.0) << "position " << k;
     }
     // Each bundle count is rounded up as a whole, not per bundle; nothing divides a loss.
-    EXPECT_DOUBLE_EQ(
-        WC::calculateTrucksWithBlockSize(8, 2, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
-        109 / 2520.0);
-    EXPECT_EQ(WC::calculateTrucksWithBlockSize(8, -1, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0),
-              -54.0);
+    EXPECT_DOUBLE_EQ(trucks(8, 0, 2), 109 / 2520.0);
+    EXPECT_EQ(trucks(8, 0, -1), -54.0);
 }
 
 TEST(ZOLWall, RowsAndRebarTruncate) {
@@ -248,7 +244,7 @@ TEST(ZOLWall, RowsAndRebarTruncate) {
 TEST(ZOLWall, UnreasonableInputsStayDefined) {
     const double doubles[] = {NAN, INFINITY, -INFINITY, 1e300, -1e300, -5.0};
     const int32_t ints[] = {INT_MAX, INT_MIN, -3};
-    for (double d : doubles) {
+    for (double d : doubles)
         for (int32_t n : ints) {
             ZOLWall w;
             for (auto set :
@@ -258,21 +254,17 @@ TEST(ZOLWall, UnreasonableInputsStayDefined) {
                   &ZOLWall::setLinearFeetBuck, &ZOLWall::setPelmoBrickHeight,
                   &ZOLWall::setPelmoBrickLength, &ZOLWall::setWastePercentage})
                 (w.*set)(d);
-            for (auto set :
-                 {&ZOLWall::setInsideCornerLocations, &ZOLWall::setOutsideCornerLocations,
-                  &ZOLWall::setAngleLocations, &ZOLWall::setTBlockLocations,
-                  &ZOLWall::setCurbCornerLocations, &ZOLWall::setStraightBlockAdded,
-                  &ZOLWall::setCornerBlockAdded, &ZOLWall::setCaloraStickLayers})
-                (w.*set)(n);
-            for (auto set :
-                 {&ZOLWall::setUseCutBlock, &ZOLWall::setUseHalfBlock, &ZOLWall::setUseExtenders})
-                (w.*set)(true);
+            // Every count (corners, angles, Ts, curb corners, added blocks, layers, pelmos per
+            // block) and every switch through its file code.
+            for (int32_t code : {48, 49, 50, 51, 54, 60, 61, 62, 69})
+                w.setValue(std::to_string(n), code);
+            for (int32_t code : {63, 64, 65, 66})
+                w.setValue(std::string("true"), code);
             for (int32_t size : {4, 6, 8, 10, 12, 5, INT_MIN, INT_MAX}) {
                 w.setBlockSize(size);
                 everyQuery(w);
             }
         }
-    }
     ZOLWall nan = wallOf(NAN);
     EXPECT_EQ(nan.getStraightBlocks(), 0);
     EXPECT_EQ(nan.getBracing(), 0);

@@ -24,9 +24,8 @@ TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorkshee
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     ScopedClock clock(kMay2);
     ZOLWorkbook workbook;
+    // One worksheet, "Worksheet 1", dated now.
     EXPECT_EQ(workbook.getXMLString(), goldenFile("new-workbook.zol"));
-    EXPECT_EQ(names(workbook), std::vector<std::string>{"Worksheet 1"});
-    EXPECT_EQ(workbook.projectDate(), kMay2);
     workbook.pricingData()->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
     workbook.setSummarizeTilt(false);
     workbook.clear();
