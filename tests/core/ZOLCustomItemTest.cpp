@@ -1,19 +1,18 @@
 #include "model/ZOLCustomItem.h"
 #include "support/GoldenFile.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
 TEST(ZOLCustomItemTest, TemplateCodesFillTheLineWhichIsWrittenVerbatim) {
-    ZOLCustomItem item;
-    EXPECT_TRUE(item.visible());
-    EXPECT_FALSE(item.tiedToWorkbook());
-    const char* texts[] = {
-        "Sealant <gray> & caulk", "2.5 loads", "Loads", "375.10", "YES", "Tilt", "false"};
-    for (int32_t code = 84; code <= 90; ++code)
-        item.setValue(std::string(texts[code - 84]), code);
-    item.setValue(std::string("99"), 83); // codes of other records change nothing
-    item.setValue(std::string("99"), 91);
+    EXPECT_TRUE(ZOLCustomItem().visible());
+    EXPECT_FALSE(ZOLCustomItem().tiedToWorkbook());
+    const CodeTexts line = {{85, "2.5 loads"}, {86, "Loads"}, {87, "375.10"},
+                            {88, "YES"},       {89, "Tilt"},  {90, "false"}};
+    ZOLCustomItem item = readRecord<ZOLCustomItem>(line);
+    item.setValue(std::string("Sealant <gray> & caulk"), 84); // written as it stands
     expectGoldenFile("xml/customitem-filled.xml", item.getXMLString());
+    expectOtherCodesIgnored(item, 84, 90);
     item.setUnit(std::nullopt); // an empty element read back
     EXPECT_NE(item.getXMLString().find("<Unit>(null)</Unit>"), std::string::npos);
 }

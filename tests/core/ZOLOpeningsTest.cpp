@@ -2,6 +2,7 @@
 #include "model/ZOLOpenings.h"
 #include "calc/ZOLOpeningsCalculator.h"
 #include "support/GoldenFile.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
@@ -21,8 +22,7 @@ std::shared_ptr<ZOLOpening> row(int32_t count, double width, double height, bool
 
 TEST(ZOLOpenings, RowAreaPerimeterAndBuck) {
     ZOLOpening fresh;
-    EXPECT_EQ(fresh.rowNumber(), 0);
-    EXPECT_EQ(fresh.numberOfOpenings(), 0);
+    EXPECT_EQ(fresh.rowNumber() + fresh.numberOfOpenings(), 0);
     EXPECT_TRUE(fresh.useSill());
 
     auto window = row(2, 36, 48);
@@ -65,17 +65,13 @@ TEST(ZOLOpenings, FileElementsAndRowCodes) {
     EXPECT_EQ(openings.getXMLString(), "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n"
                                        "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n");
     // Two rows read code by code (24 to 28) as the file reader hands them over.
-    const char* rows[2][5] = {{"0", "2", "36", "48", "true"},
-                              {" 1 row", "1 window", "72.5", "80in", "false"}};
-    std::vector<std::shared_ptr<ZOLOpening>> list;
-    for (const auto& texts : rows) {
-        list.push_back(std::make_shared<ZOLOpening>());
-        for (int32_t code = 24; code <= 28; ++code)
-            list.back()->setValue(std::string(texts[code - 24]), code);
-    }
-    for (int32_t foreign : {23, 29, 45, -1})
-        list[1]->setValue(std::string("9"), foreign);
-    openings.setOpeningList(list);
+    const CodeTexts second = {
+        {24, " 1 row"}, {25, "1 window"}, {26, "72.5"}, {27, "80in"}, {28, "false"}};
+    auto first =
+        readRecord<ZOLOpening>({{24, "0"}, {25, "2"}, {26, "36"}, {27, "48"}, {28, "true"}});
+    expectOtherCodesIgnored(first, 24, 28);
+    openings.setOpeningList({std::make_shared<ZOLOpening>(first),
+                             std::make_shared<ZOLOpening>(readRecord<ZOLOpening>(second))});
     expectGoldenFile("xml/openings-filled.xml", openings.getXMLString());
 
     // An absent text reads as nothing: no openings, no sill.

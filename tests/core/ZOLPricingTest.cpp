@@ -1,5 +1,6 @@
 #include "model/ZOLPricing.h"
 #include "support/GoldenFile.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
@@ -28,11 +29,8 @@ TEST(ZOLPricingTest, LabelsAndReaderCodes) {
     EXPECT_EQ(ZOLPriceItem(12, 0.0).getPartText(), "4\" Extender");
     EXPECT_EQ(ZOLPriceItem(15, 0.0).getPartText(), "12\" Pravex");
 
-    ZOLPriceItem item;
-    item.setValue(std::string("TEN"), 81);
-    item.setValue(std::string("cornercurb"), 82);
-    item.setValue(std::string(" 31.75 each"), 83);
-    item.setValue(std::string("Six"), 84);
+    ZOLPriceItem item = readRecord<ZOLPriceItem>(
+        {{81, "TEN"}, {82, "cornercurb"}, {83, " 31.75 each"}, {84, "Six"}});
     EXPECT_EQ(item.partSize(), 10);
     EXPECT_EQ(item.partType(), 6);
     EXPECT_DOUBLE_EQ(item.price(), 31.75);

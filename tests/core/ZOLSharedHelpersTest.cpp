@@ -71,9 +71,8 @@ TEST(ZOLText, EntryFieldKeystrokeRule) {
         {"12.5", "12.5"}, {"-3x", "3"}, {" 4", "4"}};
     for (const auto& [typed, kept] : cleaned)
         EXPECT_EQ(ZOLText::entryFieldText(typed), kept) << typed;
-    EXPECT_FALSE(ZOLText::isNumber("-"));
-    EXPECT_FALSE(ZOLText::isNumber("."));
-    EXPECT_TRUE(ZOLText::isNumber(".5"));
+    for (const auto& [text, number] : {std::pair{"-", false}, {".", false}, {".5", true}})
+        EXPECT_EQ(ZOLText::isNumber(text), number) << text;
 }
 
 TEST(ZOLFormat, FormatsLikePrintfWithStringsAndAbsentStrings) {

@@ -32,6 +32,13 @@ void expectLine(const Line& line, const char* type, const std::string& name, con
     EXPECT_EQ(line->visible(), visible) << name;
 }
 
+// A job-summary line tied to the workbook, read from its codes (84 the name, 85 the quantity, 89
+// the calculator).
+Line tiedLine(CodeTexts values) {
+    values.emplace_back(88, "true");
+    return std::make_shared<ZOLCustomItem>(readRecord<ZOLCustomItem>(values));
+}
+
 std::vector<Line> linesOf(const ZOLWorkbook& workbook, const char* type) {
     std::vector<Line> out;
     for (const auto& line : workbook.customItems())
@@ -46,25 +53,20 @@ std::vector<Line> linesOf(const ZOLWorkbook& workbook, const char* type) {
 class JobSummaryTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        const struct {
-            const char* name;
-            int32_t size;
-            double length, height;
-        } sheets[] = {
-            {"North", 8, 100, 8}, {"South", 6, 50, 8}, {"Garage", 8, 40, 4}, {"Porch", 10, 0, 8}};
+        // The walls through their file codes (8 inches and 8 feet high unless said): North 100 ft
+        // with 2 inside corners, 20 ft of buck, extenders and a layer of calora sticks; South 50
+        // ft of 6" with 2 angles; Garage 40 ft, 4 ft high; Porch, 10", no length.
+        const std::pair<const char*, CodeTexts> sheets[] = {
+            {"North", {{47, "100"}, {48, "2"}, {59, "20"}, {65, "true"}, {62, "1"}}},
+            {"South", {{45, "Six"}, {47, "50"}, {50, "2"}}},
+            {"Garage", {{47, "40"}, {46, "4"}}},
+            {"Porch", {{45, "Ten"}}}};
         workbook.setWorksheets({});
-        for (const auto& s : sheets) {
-            auto sheet = std::make_shared<ZOLWorksheet>(s.name);
-            sheet->wallData()->setBlockSize(s.size);
-            sheet->wallData()->setWallLength(s.length);
-            sheet->wallData()->setWallHeight(s.height);
+        for (const auto& [name, codes] : sheets) {
+            auto sheet = std::make_shared<ZOLWorksheet>(name);
+            *sheet->wallData() = readRecord<ZOLWall>(codes);
             workbook.addWorksheetsObject(sheet);
         }
-        wall(0).setInsideCornerLocations(2);
-        wall(0).setLinearFeetBuck(20.0);
-        wall(0).setUseExtenders(true);
-        wall(0).setCaloraStickLayers(1);
-        wall(1).setAngleLocations(2);
 
         auto& pricing = *workbook.pricingData();
         const std::tuple<int32_t, int32_t, double> prices[] = {
@@ -135,9 +137,7 @@ TEST_F(JobSummaryTest, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
 
 TEST_F(JobSummaryTest, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
     auto user = std::make_shared<ZOLCustomItem>();
-    auto oldWall = std::make_shared<ZOLCustomItem>();
-    oldWall->setTiedToWorkbook(true);
-    oldWall->setCalculatorType(std::string("Wall"));
+    auto oldWall = tiedLine({{89, "Wall"}});
     workbook.setCustomItems({user, oldWall});
     workbook.generateWallItem();
     ASSERT_EQ(workbook.customItems().size(), 2U);
@@ -175,11 +175,7 @@ TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden
 
     // Merged by name, then zeroed and hidden; a line of a size no longer used
     // stays as it is.
-    auto stale = std::make_shared<ZOLCustomItem>();
-    stale->setName(std::string("#8 Rebar"));
-    stale->setCalculatorType(std::string("Rebar"));
-    stale->setTiedToWorkbook(true);
-    stale->setQuantity(75.0);
+    auto stale = tiedLine({{84, "#8 Rebar"}, {85, "75"}, {89, "Rebar"}});
     workbook.setCustomItems({stale});
     workbook.generateRebarItems();
     const auto merged = linesOf(workbook, "Rebar");

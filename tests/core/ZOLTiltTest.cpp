@@ -17,10 +17,8 @@ using Calc = ZOLTiltCalculator;
 } // namespace
 
 TEST(ZOLTilt, HundredByTenFootWall) {
-    ZOLTilt t;
-    t.setWallLength(100);
-    t.setWallHeight(10);
-    EXPECT_EQ(t.getPanels(), 190); // 1000 / 5.33 x 1.01 = 189.49
+    const ZOLTilt t = readRecord<ZOLTilt>({{43, "10"}, {44, "100"}}); // 10 ft high, 100 ft long
+    EXPECT_EQ(t.getPanels(), 190);                                    // 1000 / 5.33 x 1.01 = 189.49
     EXPECT_EQ(t.getPanelBundles(), 17);
     EXPECT_DOUBLE_EQ(t.getPanelWeight(), 665.0);
     EXPECT_EQ(t.getInserts(), 570);
@@ -62,9 +60,7 @@ TEST(ZOLTiltCalculator, InsertsAndWeightsWrapOrScaleWithoutOverflow) {
     EXPECT_EQ(Calc::calculateInsertsWithPanels(kMin), kMin);
     EXPECT_DOUBLE_EQ(Calc::calculatePanelWeightWithPanels(kMax), kMax * 3.5);
     EXPECT_DOUBLE_EQ(Calc::calculateInsertWeightWithInserts(20), 1.0);
-    ZOLTilt t;
-    t.setWallLength(1e200);
-    t.setWallHeight(1e200);
+    ZOLTilt t = readRecord<ZOLTilt>({{43, "1e200"}, {44, "1e200"}});
     EXPECT_EQ(t.getInserts(), 2147483645);
     EXPECT_GT(t.getInsertBundles(), 0);
     t.setWallLength(INFINITY);

@@ -2,6 +2,7 @@
 #include "model/ZOLWall.h"
 #include "support/AlertRecorder.h"
 #include "support/GoldenFile.h"
+#include "support/RecordFile.h"
 #include "support/ScopedClock.h"
 #include "support/ScopedTimeZone.h"
 
@@ -67,11 +68,10 @@ TEST(ZOLWorkbookTest, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
 
 TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
     ZOLWorkbook workbook;
-    workbook.worksheets()[0]->wallData()->setWallLength(100.0);
-    workbook.worksheets()[0]->wallData()->setSqftOpenings(50.0);
+    // 100 ft of wall with 50 sq ft of openings; 50 ft with a half course, 8.667 ft high.
+    *workbook.worksheets()[0]->wallData() = readRecord<ZOLWall>({{47, "100"}, {58, "50"}});
     auto garage = std::make_shared<ZOLWorksheet>("Garage");
-    garage->wallData()->setWallLength(50.0);
-    garage->wallData()->setUseHalfBlock(true); // 8.667 feet of wall
+    *garage->wallData() = readRecord<ZOLWall>({{47, "50"}, {64, "true"}});
     workbook.addWorksheetsObject(garage);
     EXPECT_NEAR(workbook.getTotalGrossSquareFeet(), 800.0 + 433.35, 1e-9);
     EXPECT_NEAR(workbook.getTotalNetSquareFeet(), 750.0 + 433.35, 1e-9);
