@@ -29,16 +29,20 @@ void ZOLPricing::addPriceItem(std::shared_ptr<ZOLPriceItem> item) {
 double ZOLPricing::getPriceForItemType(int32_t type, int32_t withItemSize) const {
     if (!ZOLWallData::getValidSizeWithBlockType(type, withItemSize))
         return 0.0;
+    for (const auto& item : priceItems_) {
+        if (item && itemAnswers(*item, type, withItemSize))
+            return item->price();
+    }
+    return 0.0;
+}
+
+bool ZOLPricing::itemAnswers(const ZOLPriceItem& item, int32_t type, int32_t size) {
     // Extenders, HV clips and calora sticks are priced whatever size is asked
     // for. Pravex and pelmo are stored under size 12 yet looked up by the size
     // asked for, so only a look-up at 12 finds them; price lists in the field
     // depend on this.
     const bool anySize = type == 12 || type == 13 || type == 14;
-    for (const auto& item : priceItems_) {
-        if (item && item->partType() == type && (anySize || item->partSize() == withItemSize))
-            return item->price();
-    }
-    return 0.0;
+    return item.partType() == type && (anySize || item.partSize() == size);
 }
 
 std::string ZOLPricing::getPartialXMLString() const {

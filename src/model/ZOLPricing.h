@@ -26,6 +26,8 @@ public:
     // winning.
     void addPriceItem(std::shared_ptr<ZOLPriceItem> item);
     double getPriceForItemType(int32_t type, int32_t withItemSize) const;
+    // Whether a look-up of (type, size) stops at `item`.
+    static bool itemAnswers(const ZOLPriceItem& item, int32_t type, int32_t size);
 
     // The "PricingData" element of the workbook file.
     std::string getPartialXMLString() const;

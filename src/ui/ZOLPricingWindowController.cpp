@@ -46,11 +46,9 @@ public:
 // workbook its prices sit below lines of the same parts.
 bool shadowed(const std::vector<std::shared_ptr<ZOLPriceItem>>& items, size_t index) {
     const auto& item = items[index];
-    // Extenders, HV clips and calora sticks are found by type whatever their size.
-    const bool anySize = item->partType() >= 12 && item->partType() <= 14;
     for (size_t earlier = 0; earlier < index; ++earlier)
-        if (items[earlier] && items[earlier]->partType() == item->partType() &&
-            (anySize || items[earlier]->partSize() == item->partSize()))
+        if (items[earlier] &&
+            ZOLPricing::itemAnswers(*items[earlier], item->partType(), item->partSize()))
             return true;
     return false;
 }
