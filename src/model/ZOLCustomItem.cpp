@@ -2,6 +2,7 @@
 
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
+#include "io/ZOLXMLWriter.h"
 
 ZOLCustomItem::ZOLCustomItem() {
     clear();
@@ -18,7 +19,7 @@ void ZOLCustomItem::clear() {
 }
 
 std::string ZOLCustomItem::getXMLString() const {
-    // Text goes in as it stands: the template keeps exactly what the user typed.
+    // The template keeps what the user typed; only markup characters are escaped.
     return ZOLFormat::format("\t\t<CustomItem>\n"
                              "\t\t\t<Name>%@</Name>\n"
                              "\t\t\t<Quantity>%f</Quantity>\n"
@@ -28,8 +29,9 @@ std::string ZOLCustomItem::getXMLString() const {
                              "\t\t\t<CalculatorType>%@</CalculatorType>\n"
                              "\t\t\t<Visible>%@</Visible>\n"
                              "\t\t</CustomItem>\n",
-                             name_, quantity_, unit_, cost_, ZOLText::boolText(tiedToWorkbook_),
-                             calculatorType_, ZOLText::boolText(visible_));
+                             ZOLXMLWriter::escape(name_), quantity_, ZOLXMLWriter::escape(unit_),
+                             cost_, ZOLText::boolText(tiedToWorkbook_),
+                             ZOLXMLWriter::escape(calculatorType_), ZOLText::boolText(visible_));
 }
 
 void ZOLCustomItem::setValue(const std::optional<std::string>& value, int32_t forProperty) {

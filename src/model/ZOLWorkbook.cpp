@@ -445,7 +445,9 @@ std::string ZOLWorkbook::getXMLString() const {
                           "\t<SummarizeConcrete>%@</SummarizeConcrete>\n"
                           "\t<SummarizeTilt>%@</SummarizeTilt>\n"
                           "\t<SummarizeManHours>%@</SummarizeManHours>\n",
-                          projectName_, clientName_, date, projectVersion_, distributorName_,
+                          ZOLXMLWriter::escape(projectName_), ZOLXMLWriter::escape(clientName_),
+                          date, ZOLXMLWriter::escape(projectVersion_),
+                          ZOLXMLWriter::escape(distributorName_),
                           ZOLText::boolText(roundToFullBundles_), ZOLText::boolText(summarizeWall_),
                           ZOLText::boolText(summarizeRebar_), ZOLText::boolText(summarizeConcrete_),
                           ZOLText::boolText(summarizeTilt_), ZOLText::boolText(summarizeManHours_));

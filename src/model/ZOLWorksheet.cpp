@@ -1,6 +1,7 @@
 #include "model/ZOLWorksheet.h"
 
 #include "io/ZOLFormat.h"
+#include "io/ZOLXMLWriter.h"
 #include "model/ZOLConcrete.h"
 #include "model/ZOLManHours.h"
 #include "model/ZOLOpenings.h"
@@ -36,9 +37,10 @@ void ZOLWorksheet::clear() {
 }
 
 std::string ZOLWorksheet::getXMLString() const {
-    // The name goes in verbatim between double quotes, as every saved workbook
-    // has it.
-    std::string out = ZOLFormat::format("\t\t<Worksheet Name=\"%@\">\n", name_);
+    // The name goes between double quotes with its markup characters escaped, so that a
+    // quotation mark in a name cannot end the attribute.
+    std::string out =
+        ZOLFormat::format("\t\t<Worksheet Name=\"%@\">\n", ZOLXMLWriter::escape(name_));
     if (concreteData_)
         out += concreteData_->getXMLString();
     if (openingData_)

@@ -4,13 +4,13 @@
 
 #include <gtest/gtest.h>
 
-TEST(ZOLCustomItemTest, TemplateCodesFillTheLineWhichIsWrittenVerbatim) {
+TEST(ZOLCustomItemTest, TemplateCodesFillTheLineWhichIsWrittenWithMarkupEscaped) {
     EXPECT_TRUE(ZOLCustomItem().visible());
     EXPECT_FALSE(ZOLCustomItem().tiedToWorkbook());
     const CodeTexts line = {{85, "2.5 loads"}, {86, "Loads"}, {87, "375.10"},
                             {88, "YES"},       {89, "Tilt"},  {90, "false"}};
     ZOLCustomItem item = readRecord<ZOLCustomItem>(line);
-    item.setValue(std::string("Sealant <gray> & caulk"), 84); // written as it stands
+    item.setValue(std::string("Sealant <gray> & \"caulk\""), 84); // markup escaped
     expectGoldenFile("xml/customitem-filled.xml", item.getXMLString());
     expectOtherCodesIgnored(item, 84, 90);
     item.setUnit(std::nullopt); // an empty element read back

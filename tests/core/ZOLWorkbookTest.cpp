@@ -87,14 +87,14 @@ TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
               std::string::npos);
 }
 
-TEST(ZOLWorkbookTest, ProjectTextsAreWrittenVerbatimAndTheTemplateWrapsEveryLine) {
+TEST(ZOLWorkbookTest, ProjectTextsAreWrittenWithMarkupEscapedAndTheTemplateWrapsEveryLine) {
     ZOLWorkbook workbook;
     workbook.setProjectName(std::string("Smith & Sons <Lakeside>"));
     workbook.setClientName(std::nullopt);
     workbook.setProjectDate(std::nullopt);
     workbook.setRoundToFullBundles(true);
     workbook.setSummarizeRebar(false);
-    // Without worksheets or prices the whole file is the project header, texts unescaped.
+    // Without worksheets or prices the whole file is the project header.
     workbook.setWorksheets({});
     workbook.pricingData()->setPriceItems({});
     expectGoldenFile("xml/workbook-texts.xml", workbook.getXMLString());
