@@ -73,6 +73,15 @@ bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,
            (templatePath.empty() || openTemplate(templatePath, workbook));
 }
 
+bool save(const std::string& path, const std::string& text, ZOLFileKind kind) {
+    std::string reason;
+    if (ZOLFileSaver::save(path, text, kind, &reason) == ZOLFileSaver::Outcome::Saved)
+        return true;
+    std::cerr << "zolest: could not save " << path << ": " << reason << "\n";
+    setExitCode(1);
+    return false;
+}
+
 bool save(const std::string& path, const std::string& text) {
     std::string reason;
     if (ZOLAtomicFile::write(path, text, &reason))

@@ -2,6 +2,8 @@
 // Opening and saving files for zolest's file commands, the way the application does it: the
 // same open check and readers, the same alerts (printed on stderr), and atomic saves. Every
 // alert about a file is followed by the file's path, since one command may open several.
+#include "io/ZOLFileSaver.h"
+
 #include <memory>
 #include <string>
 
@@ -30,5 +32,8 @@ bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,
 
 // Saves the text atomically; on failure says why on stderr and sets the exit code to 1.
 bool save(const std::string& path, const std::string& text);
+// Saves a workbook, price file or template as the application does: only when what was written
+// opens again with the reader of its kind; otherwise the old file stays and the exit code is 1.
+bool save(const std::string& path, const std::string& text, ZOLFileKind kind);
 
 } // namespace zolcli

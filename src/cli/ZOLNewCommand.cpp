@@ -14,7 +14,7 @@ zolcli::Registrar reg("new", [](CLI::App& root) {
     cmd->add_option("-o,--output", *output, "the workbook file to write (.zol)")->required();
     cmd->callback([output] {
         ZOLWorkbook workbook;
-        zolcli::save(*output, workbook.getXMLString());
+        zolcli::save(*output, workbook.getXMLString(), ZOLFileKind::Workbook);
     });
 });
 } // namespace

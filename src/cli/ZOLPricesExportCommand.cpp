@@ -21,7 +21,7 @@ zolcli::Registrar reg("prices-export", [](CLI::App& root) {
     cmd->add_option("-o,--output", options->output, "the price file to write (.zp)")->required();
     cmd->callback([options] {
         if (auto workbook = zolcli::openWorkbook(options->workbook))
-            zolcli::save(options->output, workbook->pricingData()->getFullXMLString());
+            zolcli::save(options->output, workbook->pricingData()->getFullXMLString(), ZOLFileKind::PriceList);
     });
 });
 } // namespace

@@ -32,7 +32,7 @@ zolcli::Registrar reg("prices-import", [](CLI::App& root) {
             return;
         if (!zolcli::openPrices(options->prices, *workbook->pricingData()))
             return;
-        zolcli::save(options->output, workbook->getXMLString());
+        zolcli::save(options->output, workbook->getXMLString(), ZOLFileKind::Workbook);
     });
 });
 } // namespace

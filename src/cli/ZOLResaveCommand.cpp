@@ -21,7 +21,7 @@ zolcli::Registrar reg("resave", [](CLI::App& root) {
         ->required();
     cmd->callback([options] {
         if (auto workbook = zolcli::openWorkbook(options->input))
-            zolcli::save(options->output, workbook->getXMLString());
+            zolcli::save(options->output, workbook->getXMLString(), ZOLFileKind::Workbook);
     });
 });
 } // namespace

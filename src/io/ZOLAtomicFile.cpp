@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
@@ -41,9 +42,73 @@ std::string destinationOf(const std::string& path) {
     return path;
 }
 
+// Temporary files are named ".NAME.tmp-PID-N" beside the file they replace.
+std::string temporaryPrefix(const std::filesystem::path& target) {
+    return "." + target.filename().string() + ".tmp-";
+}
+
+// Whether the process that wrote a temporary file is gone, so that nobody will rename it.
+bool writerIsGone(std::string_view rest) {
+    const auto dash = rest.find('-');
+    if (dash == 0 || dash == std::string_view::npos || dash > 9)
+        return false;
+    pid_t pid = 0;
+    for (const char c : rest.substr(0, dash)) {
+        if (c < '0' || c > '9')
+            return false;
+        pid = pid * 10 + (c - '0');
+    }
+    if (pid <= 0 || pid == ::getpid())
+        return false;
+    return ::kill(pid, 0) != 0 && errno == ESRCH;
+}
+
+// Removes what saves of this file killed half-way left behind.
+void removeLeftovers(const std::filesystem::path& folder, const std::filesystem::path& target) {
+    const std::string prefix = temporaryPrefix(target);
+    std::error_code ec;
+    for (std::filesystem::directory_iterator it(folder, ec), end; !ec && it != end;
+         it.increment(ec)) {
+        const std::string name = it->path().filename().string();
+        if (name.size() <= prefix.size() || name.compare(0, prefix.size(), prefix) != 0)
+            continue;
+        std::error_code typeError;
+        if (it->is_regular_file(typeError) &&
+            writerIsGone(std::string_view(name).substr(prefix.size())))
+            ::unlink(it->path().c_str());
+    }
+}
+
+// Reads back what was written to the temporary file.
+bool readBack(const std::string& path, std::string& out) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    char buffer[65536];
+    ssize_t n = 0;
+    while ((n = ::read(fd, buffer, sizeof buffer)) != 0) {
+        if (n < 0) {
+            if (errno == EINTR)
+                continue;
+            ::close(fd);
+            return false;
+        }
+        out.append(buffer, static_cast<std::size_t>(n));
+    }
+    ::close(fd);
+    return true;
+}
+
 } // namespace
 
 bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, std::string* error) {
+    return write(path, bytes, Acceptor(), nullptr, error);
+}
+
+bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, const Acceptor& accept,
+                          bool* refused, std::string* error) {
+    if (refused)
+        *refused = false;
     const std::string destination = destinationOf(path);
     const std::filesystem::path target(destination);
     const std::filesystem::path folder =
@@ -56,12 +121,14 @@ bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, std::
     if (replacing && S_ISDIR(existing.st_mode))
         return fail(error, EISDIR);
 
+    removeLeftovers(folder, target);
+
     static std::atomic<unsigned> counter{0};
     std::string temporary;
     int fd = -1;
     for (int attempt = 0; attempt < 100 && fd < 0; ++attempt) {
-        temporary = (folder / ("." + target.filename().string() + ".tmp-" +
-                               std::to_string(::getpid()) + "-" + std::to_string(counter++)))
+        temporary = (folder / (temporaryPrefix(target) + std::to_string(::getpid()) + "-" +
+                               std::to_string(counter++)))
                         .string();
         fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
         if (fd < 0 && errno != EEXIST)
@@ -79,6 +146,17 @@ bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, std::
         code = errno;
     if (::close(fd) != 0 && code == 0)
         code = errno;
+    if (code == 0 && accept) {
+        std::string written;
+        if (!readBack(temporary, written)) {
+            code = errno != 0 ? errno : EIO;
+        } else if (!accept(written)) {
+            ::unlink(temporary.c_str());
+            if (refused)
+                *refused = true;
+            return fail(error, EILSEQ);
+        }
+    }
     if (code == 0 && ::rename(temporary.c_str(), destination.c_str()) != 0)
         code = errno;
     if (code != 0) {

@@ -1,10 +1,13 @@
 #pragma once
+#include <functional>
 #include <string>
 #include <string_view>
 
 // Saves a file so that it is either written whole or not at all: the bytes go to a temporary
 // file in the same folder, are flushed to the disk, and the temporary file is then renamed over
 // the destination. A failed save leaves the destination as it was and no temporary file behind.
+// A save killed half-way (power loss, kill -9) leaves its temporary file; the next save of the
+// same file removes it once the process that wrote it is gone.
 class ZOLAtomicFile {
 public:
     ZOLAtomicFile() = delete;
@@ -14,4 +17,11 @@ public:
     // points to is replaced. On failure returns false with the system's reason in `error`.
     static bool write(const std::string& path, std::string_view bytes,
                       std::string* error = nullptr);
+
+    // The same, but the temporary file's bytes, as read back from the disk, must be accepted
+    // by `accept` before they replace the destination. A refusal sets `refused` and leaves the
+    // destination as it was.
+    using Acceptor = std::function<bool(std::string_view written)>;
+    static bool write(const std::string& path, std::string_view bytes, const Acceptor& accept,
+                      bool* refused, std::string* error = nullptr);
 };

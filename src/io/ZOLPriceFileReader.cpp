@@ -12,8 +12,14 @@ ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPrici
         ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
         return ZOLReadStatus::Refused;
     }
-    ZOLPriceFileReader reader(pricing, limits);
-    return ZOLSaxParser::parse(bytes, reader) ? ZOLReadStatus::Read : ZOLReadStatus::ParseError;
+    // The file is read into a copy, and the list changes only when the whole file was read: a
+    // cut-off file must not leave the job priced by the few items before the cut.
+    ZOLPricing read = pricing;
+    ZOLPriceFileReader reader(read, limits);
+    if (!ZOLSaxParser::parse(bytes, reader))
+        return ZOLReadStatus::ParseError;
+    pricing.setPriceItems(read.priceItems());
+    return ZOLReadStatus::Read;
 }
 
 ZOLPriceFileReader::ZOLPriceFileReader(ZOLPricing& pricing, const ZOLReadLimits& limits)
@@ -21,8 +27,10 @@ ZOLPriceFileReader::ZOLPriceFileReader(ZOLPricing& pricing, const ZOLReadLimits&
 ZOLPriceFileReader::~ZOLPriceFileReader() = default;
 
 void ZOLPriceFileReader::startElement(std::string_view name, const Attributes&) {
-    if (name == "PriceItems")
+    if (name == "PriceItems") {
         pricing_.clear();
+        sawPriceItems_ = true;
+    }
     else if (name == "PriceItem")
         item_ = std::make_shared<ZOLPriceItem>();
     else if (name == "PartSize")

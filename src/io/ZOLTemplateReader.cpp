@@ -29,6 +29,7 @@ void ZOLTemplateReader::startElement(std::string_view name, const Attributes&) {
     };
     if (name == "CustomItems") {
         items_.emplace();
+        sawCustomItems_ = true;
     } else if (name == "CustomItem") {
         if (++itemsSeen_ > limits_.customItems) {
             abortParse();

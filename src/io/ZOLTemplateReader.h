@@ -35,6 +35,9 @@ public:
     void endDocument() override;
     void parseError() override;
 
+    // Whether the file held a "CustomItems" list (a file of another kind has none).
+    bool sawCustomItems() const { return sawCustomItems_; }
+
 private:
     ZOLWorkbook& workbook_;
     ZOLReadLimits limits_;
@@ -43,4 +46,5 @@ private:
     std::optional<std::string> text_;
     int32_t property_ = 0;
     int32_t itemsSeen_ = 0;
+    bool sawCustomItems_ = false;
 };

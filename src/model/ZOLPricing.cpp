@@ -45,6 +45,40 @@ bool ZOLPricing::itemAnswers(const ZOLPriceItem& item, int32_t type, int32_t siz
     return item.partType() == type && (anySize || item.partSize() == size);
 }
 
+std::vector<std::shared_ptr<ZOLPriceItem>> ZOLPricing::savedItems() const {
+    static const ZOLPricing defaults;
+    const auto& front = defaults.priceItems_;
+    if (priceItems_.size() <= front.size())
+        return {};
+    for (size_t i = 0; i < front.size(); ++i) {
+        const auto& item = priceItems_[i];
+        if (!item || item->partSize() != front[i]->partSize() ||
+            item->partType() != front[i]->partType() || item->price() != 0.0)
+            return {};
+    }
+    return {priceItems_.begin() + static_cast<std::ptrdiff_t>(front.size()), priceItems_.end()};
+}
+
+bool ZOLPricing::savedItemsChangePrices() const {
+    ZOLPricing saved;
+    saved.priceItems_ = savedItems();
+    if (saved.priceItems_.empty())
+        return false;
+    for (int32_t size : {4, 6, 8, 10, 12})
+        for (int32_t type = 0; type <= 16; ++type)
+            if (saved.getPriceForItemType(type, size) != getPriceForItemType(type, size))
+                return true;
+    return false;
+}
+
+bool ZOLPricing::useSavedItems() {
+    auto saved = savedItems();
+    if (saved.empty())
+        return false;
+    priceItems_ = std::move(saved);
+    return true;
+}
+
 std::string ZOLPricing::getPartialXMLString() const {
     std::string out = "\t<PricingData>\n\t\t<PriceItems>\n";
     for (const auto& item : priceItems_) {

@@ -29,6 +29,16 @@ public:
     // Whether a look-up of (type, size) stops at `item`.
     static bool itemAnswers(const ZOLPriceItem& item, int32_t type, int32_t size);
 
+    // The items a workbook file brought with it, behind the default list that opening a file
+    // puts in front of them: whatever follows an untouched default list (all its prices zero).
+    // Empty when the list does not start with the defaults or holds nothing after them.
+    std::vector<std::shared_ptr<ZOLPriceItem>> savedItems() const;
+    // Whether pricing by the saved items alone would change the price of any part.
+    bool savedItemsChangePrices() const;
+    // Makes the saved items the whole list, in their order, as opening a price file does.
+    // False (and nothing changed) when there are none.
+    bool useSavedItems();
+
     // The "PricingData" element of the workbook file.
     std::string getPartialXMLString() const;
     // The stand-alone price file.
