@@ -2,6 +2,7 @@
 
 #include "io/ZOLAtomicFile.h"
 #include "io/ZOLFileBytes.h"
+#include "io/ZOLFileSaver.h"
 #include "io/ZOLSaxParser.h"
 #include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPricing.h"
@@ -13,12 +14,14 @@
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLRecoveryStore.h"
 #include "ui/ZOLReportRenderer.h"
+#include "ui/ZOLSavedPricesBar.h"
 #include "ui/ZOLSettingsPreferences.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
@@ -39,6 +42,7 @@
 #include <QPrinter>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
 
@@ -93,6 +97,12 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     autosaveTimer_->setSingleShot(true);
     connect(autosaveTimer_, &QTimer::timeout, this, &ZOLDocument::autosave);
 
+    savedPricesBar_ = new ZOLSavedPricesBar(ui_->mainView);
+    savedPricesBar_->hide();
+    ui_->mainLayout->insertWidget(ui_->mainLayout->indexOf(ui_->tabView), savedPricesBar_);
+    connect(savedPricesBar_, &ZOLSavedPricesBar::useSavedPrices, this,
+            &ZOLDocument::useSavedPrices);
+
     installScreens();
     buildMenus();
     connectHeader();
@@ -105,7 +115,8 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     connect(ui_->notes, &QPushButton::clicked, this, &ZOLDocument::editNotes);
 
     loadWorkbook(nullptr);
-    cleanState_ = dataOfType();
+    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
+    cleanState_ = jobState();
     lastAutosaved_ = cleanState_;
     updateTitle();
 }
@@ -338,7 +349,12 @@ void ZOLDocument::deleteWorksheet() {
 
 void ZOLDocument::editNotes() {
     std::string notes = workbook_->notes().value_or(std::string());
-    if (ZOLFieldAlerts::run({"Project Notes", "", {"Done", "Cancel"}}, notes,
+    // The workbook file has no place for notes: say where they live.
+    if (ZOLFieldAlerts::run({"Project Notes",
+                             "Notes are kept on this computer with the job and print with the "
+                             "report; the workbook file does not carry them.",
+                             {"Done", "Cancel"}},
+                            notes,
                             ZOLFieldAlertPresenter::Field::Text) != 0)
         return;
     workbook_->setNotes(notes);
@@ -350,6 +366,7 @@ void ZOLDocument::editPricing() {
     window.exec();
     if (workbookSummary_)
         workbookSummary_->loadValues();
+    updateSavedPricesBar();
     noteEdit();
 }
 
@@ -398,14 +415,25 @@ QByteArray ZOLDocument::dataOfType(const QString&) const {
     return QByteArray(xml.data(), static_cast<qsizetype>(xml.size()));
 }
 
-bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
+QByteArray ZOLDocument::jobState() const {
+    return dataOfType() + QByteArray(1, '\0') + ZOLJobSnapshot::capture(*workbook_);
+}
+
+std::shared_ptr<ZOLWorkbook> ZOLDocument::readWorkbook(const QByteArray& bytes,
+                                                       bool* wrongFormat) {
     const auto result = ZOLWorkbookReader::readWorkbookData(
         std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
     if (wrongFormat)
         *wrongFormat = result.status == ZOLReadStatus::Refused;
-    if (!result.ok())
+    return result.ok() ? result.workbook : nullptr;
+}
+
+bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
+    auto workbook = readWorkbook(bytes, wrongFormat);
+    if (!workbook)
         return false;
-    loadWorkbook(result.workbook);
+    loadWorkbook(std::move(workbook));
+    updateSavedPricesBar();
     return true;
 }
 
@@ -419,14 +447,24 @@ bool ZOLDocument::readFromFile(const QString& path) {
     }
     const QByteArray data(bytes->data(), static_cast<qsizetype>(bytes->size()));
     bool wrongFormat = false;
-    if (!readFromData(data, &wrongFormat)) {
+    auto workbook = readWorkbook(data, &wrongFormat);
+    if (!workbook) {
         if (wrongFormat)
             ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)),
                            "It is not a Zol Estimator workbook, or it is damaged.", {"OK"});
         return false;
     }
+    // The same file, unchanged since this computer saved it: the job comes back whole.
+    QStringList restored;
+    if (const auto snapshot = snapshots_.load(path, data))
+        restored = ZOLJobSnapshot::apply(*snapshot, *workbook);
+    loadWorkbook(std::move(workbook));
+    updateSavedPricesBar();
+    if (!restored.isEmpty())
+        statusBar()->showMessage(tr("Restored from this computer: %1").arg(restored.join(", ")));
     fileBytesAtSave_ = data;
-    cleanState_ = dataOfType();
+    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
+    cleanState_ = jobState();
     lastAutosaved_ = cleanState_;
     autosavedSinceSave_ = false;
     recovery_.reset();
@@ -435,29 +473,37 @@ bool ZOLDocument::readFromFile(const QString& path) {
     return true;
 }
 
-bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes, bool reportFailure) {
+bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes,
+                            const QByteArray& snapshot, bool reportFailure) {
     std::string error;
-    if (ZOLAtomicFile::write(nativePath(path),
-                             std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
-                             &error))
+    if (ZOLFileSaver::save(nativePath(path),
+                           std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
+                           ZOLFileKind::Workbook, &error) == ZOLFileSaver::Outcome::Saved) {
+        snapshots_.save(path, bytes, snapshot);
         return true;
+    }
+    const QString message =
+        tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName());
     if (reportFailure)
-        ZOLAlerts::run(
-            utf8(tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName())),
-            error, {"OK"});
+        ZOLAlerts::run(utf8(message), error, {"OK"});
+    else
+        statusBar()->showMessage(message + QLatin1Char(' ') + qs(error) + QLatin1Char(' ') +
+                                 tr("Autosave tries again after your next change."));
     return false;
 }
 
 bool ZOLDocument::saveToFile(const QString& path) {
     const QByteArray bytes = dataOfType();
-    if (!writeFile(path, bytes, true))
+    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
+    if (!writeFile(path, bytes, snapshot, true))
         return false;
     const QString canonical = QFileInfo(path).absoluteFilePath();
     if (canonical != filePath_ && !filePath_.isEmpty() && autosavedSinceSave_)
         restoreLastSaved(); // the old file goes back to what the user saved in it
     fileBytesAtSave_ = bytes;
-    cleanState_ = bytes;
-    lastAutosaved_ = bytes;
+    snapshotAtSave_ = snapshot;
+    cleanState_ = jobState();
+    lastAutosaved_ = cleanState_;
     autosavedSinceSave_ = false;
     autosaveTimer_->stop();
     recovery_.reset();
@@ -493,10 +539,14 @@ void ZOLDocument::revertDocumentToSaved() {
     if (ZOLAlerts::run(utf8(message), "Your current changes will be lost.", {"Revert", "Cancel"}) !=
         0)
         return;
-    if (!readFromData(fileBytesAtSave_))
+    auto workbook = readWorkbook(fileBytesAtSave_, nullptr);
+    if (!workbook)
         return;
+    ZOLJobSnapshot::apply(snapshotAtSave_, *workbook);
+    loadWorkbook(std::move(workbook));
+    updateSavedPricesBar();
     restoreLastSaved();
-    cleanState_ = dataOfType();
+    cleanState_ = jobState();
     lastAutosaved_ = cleanState_;
     setEdited(false);
 }
@@ -504,7 +554,7 @@ void ZOLDocument::revertDocumentToSaved() {
 void ZOLDocument::restoreLastSaved() {
     if (!autosavedSinceSave_ || filePath_.isEmpty())
         return;
-    if (writeFile(filePath_, fileBytesAtSave_, false))
+    if (writeFile(filePath_, fileBytesAtSave_, snapshotAtSave_, false))
         autosavedSinceSave_ = false;
 }
 
@@ -541,7 +591,7 @@ void ZOLDocument::setEdited(bool edited) {
 }
 
 void ZOLDocument::noteEdit() {
-    const QByteArray now = dataOfType();
+    const QByteArray now = jobState();
     setEdited(now != cleanState_);
     if (!edited_) {
         // Back where the user saved: nothing of these edits should outlive the session.
@@ -565,13 +615,16 @@ void ZOLDocument::autosave() {
     autosaveTimer_->stop();
     if (!edited_)
         return;
-    const QByteArray bytes = dataOfType();
-    if (bytes == lastAutosaved_)
+    const QByteArray state = jobState();
+    if (state == lastAutosaved_)
         return;
+    const QByteArray bytes = dataOfType();
+    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
     if (!filePath_.isEmpty()) {
-        if (writeFile(filePath_, bytes, false)) {
+        // A failure is said in the status bar; the next edit starts the timer again.
+        if (writeFile(filePath_, bytes, snapshot, false)) {
             autosavedSinceSave_ = true;
-            lastAutosaved_ = bytes;
+            lastAutosaved_ = state;
         }
         return;
     }
@@ -579,24 +632,42 @@ void ZOLDocument::autosave() {
         ZOLRecoveryStore fallback;
         recovery_ = controller_ ? controller_->recoveryStore().createSlot() : fallback.createSlot();
     }
-    if (recovery_->write(bytes))
-        lastAutosaved_ = bytes;
+    if (recovery_->write(bytes, snapshot))
+        lastAutosaved_ = state;
 }
 
 bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
     if (!slot)
         return false;
     const QByteArray bytes = slot->read();
-    {
-        // The reader's own alerts still show: a damaged recovery file is reported as such.
-        if (!readFromData(bytes))
-            return false;
-    }
+    // The reader's own alerts still show: a damaged recovery file is reported as such.
+    auto workbook = readWorkbook(bytes, nullptr);
+    if (!workbook)
+        return false;
+    ZOLJobSnapshot::apply(slot->readSnapshot(), *workbook);
+    loadWorkbook(std::move(workbook));
+    updateSavedPricesBar();
     recovery_ = std::move(slot);
     cleanState_.clear(); // nothing of it was ever saved
-    lastAutosaved_ = bytes;
+    lastAutosaved_ = jobState();
     setEdited(true);
     return true;
+}
+
+void ZOLDocument::updateSavedPricesBar() {
+    const auto& pricing = workbook_->pricingData();
+    savedPricesBar_->setVisible(pricing && pricing->savedItemsChangePrices());
+}
+
+void ZOLDocument::useSavedPrices() {
+    const auto& pricing = workbook_->pricingData();
+    if (!pricing || !pricing->useSavedItems())
+        return;
+    updateSavedPricesBar();
+    for (const Screen& screen : screens_)
+        screen.loadValues();
+    noteEdit();
+    statusBar()->showMessage(tr("The job is priced with the prices saved in the workbook."));
 }
 
 bool ZOLDocument::canClose() {

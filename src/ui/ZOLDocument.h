@@ -1,4 +1,6 @@
 #pragma once
+#include "ui/ZOLSnapshotStore.h"
+
 #include <QByteArray>
 #include <QMainWindow>
 
@@ -19,6 +21,7 @@ class QTabWidget;
 class QTimer;
 class ZOLDocumentController;
 class ZOLRecoverySlot;
+class ZOLSavedPricesBar;
 class ZOLWorkbook;
 class ZOLWorkbookSummaryViewController;
 class ZOLWorksheet;
@@ -34,6 +37,11 @@ class ZOLDocument;
 // untitled one is autosaved to a recovery file that the next start offers back. Save, Don't
 // Save and Revert still mean what users expect: the file holds what the user last saved
 // unless the program stops without being asked.
+//
+// Every save and autosave also keeps a snapshot of the job on this computer (ZOLJobSnapshot):
+// what the workbook file does not bring back (notes, version, distributor, waste percentages,
+// summary switches, the user's own job-summary lines, the price list as it was, the concrete
+// wall heights). Reopening that same file, unchanged, gives the job back as the user left it.
 class ZOLDocument : public QMainWindow {
     Q_OBJECT
 
@@ -58,6 +66,15 @@ public:
     bool readFromFile(const QString& path);
     // Writes the workbook to `path` and makes it the document's file.
     bool saveToFile(const QString& path);
+    // What decides whether the document is edited: the file's bytes and the snapshot of what
+    // the file does not keep.
+    QByteArray jobState() const;
+    // Replaces the price list with the prices the opened file was saved with.
+    void useSavedPrices();
+    // Where the snapshots of saved jobs are kept (tests point it at a folder of their own).
+    void setSnapshotDirectory(const QString& directory) {
+        snapshots_ = ZOLSnapshotStore(directory);
+    }
 
     QString filePath() const { return filePath_; }
     QString displayName() const;
@@ -122,7 +139,11 @@ private:
     void updateTitle();
     void setEdited(bool edited);
     void startAutosaveTimer();
-    bool writeFile(const QString& path, const QByteArray& bytes, bool reportFailure);
+    bool writeFile(const QString& path, const QByteArray& bytes, const QByteArray& snapshot,
+                   bool reportFailure);
+    // The workbook in a file's bytes, or nothing (after the reader's alert).
+    std::shared_ptr<ZOLWorkbook> readWorkbook(const QByteArray& bytes, bool* wrongFormat);
+    void updateSavedPricesBar();
     void restoreLastSaved();
     int32_t selectedWorksheetIndex() const;
     // Shows the print settings; the report they ask for, or nothing when the user cancelled.
@@ -140,11 +161,15 @@ private:
     // The file's bytes as the user last opened or saved them: Don't Save and Revert put them
     // back after autosave has written edits into the file.
     QByteArray fileBytesAtSave_;
-    // What the workbook saved as at that moment (an opened file saves a little differently from
-    // how it was written); the document is edited when the workbook would now save otherwise.
+    // The snapshot of the job as the user last opened or saved it.
+    QByteArray snapshotAtSave_;
+    // The job state (jobState) at that moment (an opened file saves a little differently from
+    // how it was written); the document is edited when the job state now differs.
     QByteArray cleanState_;
-    // What autosave last wrote, so that an unchanged workbook is not written again.
+    // The job state autosave last wrote, so that an unchanged job is not written again.
     QByteArray lastAutosaved_;
+    ZOLSnapshotStore snapshots_;
+    ZOLSavedPricesBar* savedPricesBar_ = nullptr;
     bool edited_ = false;
     // Autosave has written edits into the file that the user has not saved.
     bool autosavedSinceSave_ = false;

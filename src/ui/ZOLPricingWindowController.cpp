@@ -1,6 +1,6 @@
 #include "ui/ZOLPricingWindowController.h"
 
-#include "io/ZOLAtomicFile.h"
+#include "io/ZOLFileSaver.h"
 #include "io/ZOLFileBytes.h"
 #include "io/ZOLFormat.h"
 #include "io/ZOLPriceFileReader.h"
@@ -17,6 +17,8 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
+
+#include <optional>
 
 namespace {
 QString qs(const std::string& text) {
@@ -41,16 +43,17 @@ public:
         return edit;
     }
 };
-// Whether an earlier line of the list answers the look-ups of `items[index]` first: a workbook
-// file's prices come after the list every workbook starts with, so after reopening a priced
-// workbook its prices sit below lines of the same parts.
-bool shadowed(const std::vector<std::shared_ptr<ZOLPriceItem>>& items, size_t index) {
+// The earlier line of the list that answers the look-ups of `items[index]` first, if any: a
+// workbook file's prices come after the list every workbook starts with, so after reopening a
+// priced workbook its prices sit below lines of the same parts.
+std::optional<size_t> shadowedBy(const std::vector<std::shared_ptr<ZOLPriceItem>>& items,
+                                 size_t index) {
     const auto& item = items[index];
     for (size_t earlier = 0; earlier < index; ++earlier)
         if (items[earlier] &&
             ZOLPricing::itemAnswers(*items[earlier], item->partType(), item->partSize()))
-            return true;
-    return false;
+            return earlier;
+    return std::nullopt;
 }
 } // namespace
 
@@ -74,6 +77,8 @@ ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricin
             &ZOLPricingWindowController::openPricing);
     connect(ui_->savePricing, &QPushButton::clicked, this,
             &ZOLPricingWindowController::savePricing);
+    connect(ui_->useSavedPrices, &QPushButton::clicked, this,
+            &ZOLPricingWindowController::useSavedPrices);
     connect(ui_->done, &QPushButton::clicked, this, &QDialog::accept);
     loadData();
     // Typing on an opened window goes into the first price.
@@ -97,12 +102,20 @@ void ZOLPricingWindowController::loadData() {
         price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
         price->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
         table->setItem(row, kPriceColumn, price);
-        if (shadowed(items, i))
+        // A line that a line above overrides would take a price and change nothing: it is
+        // shown greyed and cannot be edited, and says which line sets the price.
+        if (const auto by = shadowedBy(items, i)) {
+            price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            const QString tip = tr("Not used: line %1 (%2) sets the price of this part.")
+                                    .arg(*by + 1)
+                                    .arg(qs(items[*by]->getPartText()));
             for (QTableWidgetItem* cell : {part, price}) {
                 cell->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
-                cell->setToolTip(tr("Not used: a line above sets the price of this part."));
+                cell->setToolTip(tip);
             }
+        }
     }
+    ui_->useSavedPrices->setEnabled(pricingData_ && !pricingData_->savedItems().empty());
     loading_ = false;
 }
 
@@ -153,6 +166,16 @@ void ZOLPricingWindowController::savePricing() {
 void ZOLPricingWindowController::savePricingFile(const QString& path) {
     if (!pricingData_)
         return;
-    // The price list window does not report a failed write.
-    ZOLAtomicFile::write(QFile::encodeName(path).toStdString(), pricingData_->getFullXMLString());
+    // The price list window does not report a failed write; a file that would not open again
+    // is not written at all, and that the user is told.
+    std::string error;
+    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(),
+                           pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
+                           &error) == ZOLFileSaver::Outcome::Unreadable)
+        ZOLAlerts::run("The price list could not be saved.", error, {"OK"});
+}
+
+void ZOLPricingWindowController::useSavedPrices() {
+    if (pricingData_ && pricingData_->useSavedItems())
+        loadData();
 }

@@ -30,6 +30,8 @@ public:
     // The same with the file already chosen (the panels call these).
     void openPricingFile(const QString& path);
     void savePricingFile(const QString& path);
+    // Makes the prices the workbook was saved with the whole list (see ZOLPricing).
+    void useSavedPrices();
 
     static constexpr int kPartColumn = 0;
     static constexpr int kPriceColumn = 1;

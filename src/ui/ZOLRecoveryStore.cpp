@@ -24,9 +24,13 @@ ZOLRecoverySlot::~ZOLRecoverySlot() {
     discard();
 }
 
-bool ZOLRecoverySlot::write(const QByteArray& bytes) {
-    QDir().mkpath(QFileInfo(path_).absolutePath());
-    QSaveFile file(path_);
+namespace {
+QString snapshotPathFor(const QString& path) {
+    return path + QStringLiteral(".job");
+}
+
+bool writeWhole(const QString& path, const QByteArray& bytes) {
+    QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return false;
     if (file.write(bytes) != bytes.size()) {
@@ -36,17 +40,36 @@ bool ZOLRecoverySlot::write(const QByteArray& bytes) {
     return file.commit();
 }
 
-QByteArray ZOLRecoverySlot::read() const {
-    QFile file(path_);
+QByteArray readWhole(const QString& path) {
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return file.readAll();
+}
+} // namespace
+
+bool ZOLRecoverySlot::write(const QByteArray& bytes, const QByteArray& snapshot) {
+    QDir().mkpath(QFileInfo(path_).absolutePath());
+    // The snapshot first: a crash between the two then leaves newer notes beside an older
+    // workbook, never a workbook without its notes.
+    if (!snapshot.isEmpty() && !writeWhole(snapshotPathFor(path_), snapshot))
+        return false;
+    return writeWhole(path_, bytes);
+}
+
+QByteArray ZOLRecoverySlot::read() const {
+    return readWhole(path_);
+}
+
+QByteArray ZOLRecoverySlot::readSnapshot() const {
+    return readWhole(snapshotPathFor(path_));
 }
 
 void ZOLRecoverySlot::discard() {
     if (path_.isEmpty())
         return;
     QFile::remove(path_);
+    QFile::remove(snapshotPathFor(path_));
     if (lock_)
         lock_->unlock();
     lock_.reset();

@@ -19,8 +19,11 @@ public:
     ZOLRecoverySlot& operator=(const ZOLRecoverySlot&) = delete;
 
     const QString& path() const { return path_; }
-    bool write(const QByteArray& bytes);
+    // Writes the workbook's bytes and, beside them, the snapshot of what the file does not keep
+    // (notes, waste percentages, ...), so that a crash loses neither.
+    bool write(const QByteArray& bytes, const QByteArray& snapshot = {});
     QByteArray read() const;
+    QByteArray readSnapshot() const;
     void discard();
 
 private:

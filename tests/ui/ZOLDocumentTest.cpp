@@ -2,6 +2,8 @@
 // the file flow (save, reopen, unsaved changes, autosave and recovery, unreadable files).
 #include "ui/ZOLDocument.h"
 #include "UiTestSupport.h"
+#include "model/ZOLConcrete.h"
+#include "model/ZOLCustomItem.h"
 #include "model/ZOLOpening.h"
 #include "model/ZOLOpenings.h"
 #include "model/ZOLWall.h"
@@ -11,6 +13,7 @@
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
+#include "ui/ZOLSavedPricesBar.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
 #include "ui/ZOLWorkbookSummaryViewController.h"
@@ -223,7 +226,10 @@ private slots:
         const std::string notes = "Pour Monday\n<b>Call the pump</b>";
         alerts->answer(0, notes);
         document.editNotes();
-        QCOMPARE(alerts->last(), QString("Project Notes [Done|Cancel] "));
+        QCOMPARE(alerts->last(),
+                 QString("Project Notes [Done|Cancel] Notes are kept on this computer with the "
+                         "job and print with the report; the workbook file does not carry them."));
+        QVERIFY(document.isDocumentEdited()); // notes alone are an edit
         QCOMPARE(document.workbook()->notes().value_or(""), notes);
         alerts->answer(1, "lost");
         document.editNotes();
@@ -391,6 +397,82 @@ private slots:
         tabs->setCurrentIndex(summaryTab);
         QVERIFY(table->rowCount() > 2);
         QCOMPARE(table->item(0, 0)->text(), QString("8\" Straight Block"));
+    }
+
+    void aJobReopenedOnThisComputerComesBackAsItWasSaved() {
+        const QString path = dir_.filePath("lakeview.zol");
+        ZOLDocument document;
+        document.setSnapshotDirectory(dir_.filePath("snapshots"));
+        QTest::keyClicks(control<QLineEdit>(&document, "projectVersion"), "3");
+        type(control<QLineEdit>(&document, "projectName"), "Lakeview Residence & Co");
+        const auto sheet = document.workbook()->worksheets()[0];
+        sheet->wallData()->setWastePercentage(0.05);
+        sheet->concreteData()->setWallHeight(9.0);
+        sheet->concreteData()->setSqFtOpenings(42.5);
+        document.workbook()->pricingData()->priceItems()[0]->setPrice(4.75);
+        document.workbook()->setSummarizeTilt(false);
+        auto line = std::make_shared<ZOLCustomItem>();
+        line->setName(std::string("Building permit"));
+        document.workbook()->setCustomItems({line});
+        alerts->answer(0, "Pour Monday");
+        document.editNotes();
+        QVERIFY(document.saveToFile(path));
+        const QByteArray saved = document.dataOfType();
+        const QByteArray job = document.jobState();
+
+        const auto reopen = [this, &path] {
+            auto copy = std::make_unique<ZOLDocument>();
+            copy->setSnapshotDirectory(dir_.filePath("snapshots"));
+            if (!copy->readFromFile(path))
+                qFatal("the file did not reopen");
+            return copy;
+        };
+        auto reopened = reopen();
+        QCOMPARE(reopened->jobState(), job);
+        QCOMPARE(reopened->workbook()->projectName().value_or(""),
+                 std::string("Lakeview Residence & Co"));
+        QCOMPARE(reopened->workbook()->worksheets()[0]->concreteData()->wallHeight(), 9.0);
+        QCOMPARE(reopened->statusBar()->currentMessage(),
+                 QString("Restored from this computer: notes, prices, concrete heights, waste "
+                         "percentages, job summary lines, summary switches, version"));
+        QVERIFY(!reopened->isDocumentEdited());
+        QVERIFY(!reopened->findChild<ZOLSavedPricesBar*>()->isVisibleTo(reopened.get()));
+
+        // Changed by another program: the file opens as it says, and the snapshot stays.
+        writeAll(path, QByteArray(saved).replace("Lakeview", "Lakeside"));
+        reopened = reopen();
+        QCOMPARE(reopened->workbook()->worksheets()[0]->concreteData()->wallHeight(), 42.5);
+        QCOMPARE(reopened->workbook()->notes().value_or(""), std::string());
+        QVERIFY(reopened->statusBar()->currentMessage().isEmpty());
+        writeAll(path, saved);
+        QCOMPARE(reopen()->jobState(), job);
+    }
+
+    void savedPricesAreOneClickAwayAndAFailedAutosaveIsSaid() {
+        const QString path = dir_.filePath("house.zol");
+        QVERIFY(QFile::copy(ZOL_SOURCE_DIR "/examples/sample-house.zol", path));
+        ZOLDocument document;
+        document.setSnapshotDirectory(dir_.filePath("snapshots"));
+        QVERIFY(document.readFromFile(path));
+        auto* bar = document.findChild<ZOLSavedPricesBar*>();
+        QVERIFY(bar->isVisibleTo(&document));
+        const auto pricing = document.workbook()->pricingData();
+        QCOMPARE(pricing->getPriceForItemType(0, 8), 0.0);
+        QTest::mouseClick(bar->useSavedPricesButton(), Qt::LeftButton);
+        QVERIFY(pricing->getPriceForItemType(0, 8) > 0.0);
+        QCOMPARE(pricing->priceItems().size(), size_t(44));
+        QVERIFY(!bar->isVisibleTo(&document));
+        QVERIFY(document.isDocumentEdited());
+
+        // The file's place is taken by a folder: autosave says so and tries again later.
+        QVERIFY(QFile::remove(path) && QDir().mkdir(path));
+        document.autosave();
+        QVERIFY(document.statusBar()->currentMessage().startsWith(
+            "The document “house.zol” could not be saved."));
+        QVERIFY(QDir().rmdir(path));
+        setLength(document, 12.0);
+        document.autosave();
+        QVERIFY(readAll(path).contains("<WallLength>12.000000</WallLength>"));
     }
 
     void everyControlIsReachedWithTab() {

@@ -48,9 +48,22 @@ private slots:
         auto* table = window.findChild<QTableWidget*>("priceTable");
         QStringList marked;
         for (int row = 0; row < table->rowCount(); ++row)
-            if (!table->item(row, 1)->toolTip().isEmpty())
+            if (!table->item(row, 1)->toolTip().isEmpty()) {
                 marked << table->item(row, 0)->text();
+                // An edit there would change no price: the cell cannot be edited.
+                QVERIFY(!(table->item(row, 1)->flags() & Qt::ItemIsEditable));
+            }
         QCOMPARE(marked, QStringList({"8\" Straight Block", "Zol Block HV Clips"}));
+        QCOMPARE(table->item(44, 1)->toolTip(),
+                 QString("Not used: line 17 (8\" Straight Block) sets the price of this part."));
+
+        // The saved prices become the list at one click.
+        auto* use = control<QPushButton>(&window, "useSavedPrices");
+        QVERIFY(use->isEnabled());
+        QTest::mouseClick(use, Qt::LeftButton);
+        QCOMPARE(table->rowCount(), 3);
+        QCOMPARE(pricing->getPriceForItemType(0, 8), 23.40);
+        QVERIFY(!use->isEnabled());
     }
 
     void priceFilesCarryTheListAcross() {
@@ -97,20 +110,20 @@ private slots:
         QCOMPARE(alerts->alerts.size(), size_t(1));
         QCOMPARE(pricing->priceItems().size(), size_t(44));
 
-        // A broken one keeps the items read before the break.
+        // A broken one changes nothing: no price of the job is lost to a cut-off file.
         open("broken.zp", "<Pricing><PriceItems><PriceItem><PartSize>Eight</PartSize>"
                           "<PartType>Straight</PartType><Price>9.50</Price></PriceItem>"
                           "<PriceItem><Price>1</Pri");
         QCOMPARE(alerts->alerts.back().message,
                  std::string("There was an error opening the file."));
-        QCOMPARE(pricing->priceItems().size(), size_t(1));
-        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 1);
+        QCOMPARE(pricing->priceItems().size(), size_t(44));
+        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 44);
 
         // Cancelling the panel still reloads the table from the list.
         pricing->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
         ScriptedPanels cancelled({});
         window.openPricing();
-        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 2);
+        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 45);
     }
 };
 
