@@ -338,12 +338,14 @@ private slots:
             controller.setRecoveryDirectory(recovery.path());
             ZOLDocument* document = controller.newDocument();
             setLength(*document, 55.0);
+            document->workbook()->setNotes(std::string("Pour Monday"));
             document->autosave();
             const QStringList files = recovery.entryList({"*.zol"}, QDir::Files);
             QCOMPARE(files.size(), 1);
-            // What a crash leaves: the file without its owner.
-            QVERIFY(QFile::copy(recovery.filePath(files.front()),
-                                recovery.filePath("recovery-crash.zol")));
+            // What a crash leaves: the file and its snapshot without their owner.
+            for (const char* suffix : {"", ".job"})
+                QVERIFY(QFile::copy(recovery.filePath(files.front() + suffix),
+                                    recovery.filePath("recovery-crash.zol" + QString(suffix))));
             alerts->answer(1); // Don't Save on the way out
             QVERIFY(controller.closeAll());
             QCOMPARE(recovery.entryList({"*.zol"}, QDir::Files), QStringList{"recovery-crash.zol"});
@@ -356,13 +358,14 @@ private slots:
         QCOMPARE(alerts->alerts.back().buttons, (std::vector<std::string>{"Reopen", "Discard"}));
         ZOLDocument* restored = controller.documents().front();
         QCOMPARE(firstWall(*restored)->wallLength(), 55.0);
+        QCOMPARE(restored->workbook()->notes().value_or(""), std::string("Pour Monday"));
         QVERIFY(restored->isDocumentEdited());
         QVERIFY(restored->filePath().isEmpty());
 
         // Discarding it at close removes the recovery file for good.
         alerts->answer(1);
         QVERIFY(controller.closeAll());
-        QVERIFY(recovery.entryList({"*.zol"}, QDir::Files).isEmpty());
+        QVERIFY(recovery.entryList({"*.zol", "*.job"}, QDir::Files).isEmpty());
         QCOMPARE(controller.offerRecovery(), 0);
     }
 
