@@ -1,6 +1,5 @@
 #include "ui/ZOLDocument.h"
 
-#include "io/ZOLAtomicFile.h"
 #include "io/ZOLFileBytes.h"
 #include "io/ZOLFileSaver.h"
 #include "io/ZOLSaxParser.h"
@@ -432,9 +431,17 @@ bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
     auto workbook = readWorkbook(bytes, wrongFormat);
     if (!workbook)
         return false;
+    showWithSnapshot(std::move(workbook), QByteArray());
+    return true;
+}
+
+QStringList ZOLDocument::showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
+                                          const QByteArray& snapshot) {
+    const QStringList restored =
+        snapshot.isEmpty() ? QStringList() : ZOLJobSnapshot::apply(snapshot, *workbook);
     loadWorkbook(std::move(workbook));
     updateSavedPricesBar();
-    return true;
+    return restored;
 }
 
 bool ZOLDocument::readFromFile(const QString& path) {
@@ -455,11 +462,8 @@ bool ZOLDocument::readFromFile(const QString& path) {
         return false;
     }
     // The same file, unchanged since this computer saved it: the job comes back whole.
-    QStringList restored;
-    if (const auto snapshot = snapshots_.load(path, data))
-        restored = ZOLJobSnapshot::apply(*snapshot, *workbook);
-    loadWorkbook(std::move(workbook));
-    updateSavedPricesBar();
+    const QStringList restored = showWithSnapshot(
+        std::move(workbook), snapshots_.load(path, data).value_or(QByteArray()));
     if (!restored.isEmpty())
         statusBar()->showMessage(tr("Restored from this computer: %1").arg(restored.join(", ")));
     fileBytesAtSave_ = data;
@@ -542,9 +546,7 @@ void ZOLDocument::revertDocumentToSaved() {
     auto workbook = readWorkbook(fileBytesAtSave_, nullptr);
     if (!workbook)
         return;
-    ZOLJobSnapshot::apply(snapshotAtSave_, *workbook);
-    loadWorkbook(std::move(workbook));
-    updateSavedPricesBar();
+    showWithSnapshot(std::move(workbook), snapshotAtSave_);
     restoreLastSaved();
     cleanState_ = jobState();
     lastAutosaved_ = cleanState_;
@@ -644,9 +646,7 @@ bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
     auto workbook = readWorkbook(bytes, nullptr);
     if (!workbook)
         return false;
-    ZOLJobSnapshot::apply(slot->readSnapshot(), *workbook);
-    loadWorkbook(std::move(workbook));
-    updateSavedPricesBar();
+    showWithSnapshot(std::move(workbook), slot->readSnapshot());
     recovery_ = std::move(slot);
     cleanState_.clear(); // nothing of it was ever saved
     lastAutosaved_ = jobState();

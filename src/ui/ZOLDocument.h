@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QMainWindow>
+#include <QStringList>
 
 #include <cstdint>
 #include <functional>
@@ -143,6 +144,10 @@ private:
                    bool reportFailure);
     // The workbook in a file's bytes, or nothing (after the reader's alert).
     std::shared_ptr<ZOLWorkbook> readWorkbook(const QByteArray& bytes, bool* wrongFormat);
+    // Shows a workbook just read, with the snapshot of its job (if any) applied first; returns
+    // what the snapshot gave back.
+    QStringList showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
+                                 const QByteArray& snapshot);
     void updateSavedPricesBar();
     void restoreLastSaved();
     int32_t selectedWorksheetIndex() const;
