@@ -386,8 +386,17 @@ void ZOLDocument::deleteWorksheet() {
         return;
     sheets.erase(sheets.begin() + index);
     workbook_->setWorksheets(std::move(sheets));
-    // The window is left as it stands: the selector and the screens still show the deleted
-    // worksheet until another one is chosen.
+    // The screens and the selector's text still show the deleted worksheet until another one
+    // is chosen, but the selector offers only the worksheets that remain, each under its own
+    // name; nothing is chosen in it, so Rename and Delete find no worksheet to act on.
+    QComboBox* box = ui_->worksheetSelection;
+    const QString shown = box->currentText();
+    reloadWorksheetSelector();
+    {
+        const QSignalBlocker blocker(box);
+        box->setPlaceholderText(shown);
+        box->setCurrentIndex(-1);
+    }
     noteEdit();
 }
 

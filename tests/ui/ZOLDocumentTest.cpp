@@ -41,7 +41,9 @@ QString selector(const ZOLDocument& document) {
     QStringList items;
     for (int i = 0; i < document.worksheetSelection()->count(); ++i)
         items << document.worksheetSelection()->itemText(i);
-    return items.join(", ") + " showing " + document.worksheetSelection()->currentText();
+    const QComboBox* box = document.worksheetSelection();
+    return items.join(", ") + " showing " +
+           (box->currentIndex() < 0 ? box->placeholderText() : box->currentText());
 }
 
 // A choice of a radio group that is not chosen: Tab stops on the chosen one and the arrow keys
@@ -172,42 +174,47 @@ private slots:
         QCOMPARE(selector(document), QString("Worksheet 1, Shed showing Shed"));
     }
 
-    void deletingLeavesTheWindowAsItWas() {
+    void deletingLeavesTheWindowAsItWasButTheSelectorLive() {
         ZOLDocument document;
         add(document, "Garage");
+        add(document, "Shed");
+        choose(document.worksheetSelection(), 1);
         const auto garageWall = document.workbook()->worksheets()[1]->wallData();
+        const auto shed = document.workbook()->worksheets()[2];
 
         alerts->answer(1);
         document.deleteWorksheet();
         QCOMPARE(alerts->last(),
                  QString("Are you sure you want to delete this worksheet? [OK|Cancel] "));
-        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage"));
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage, Shed"));
 
         alerts->answer(0);
         document.deleteWorksheet();
-        QCOMPARE(names(*document.workbook()), QString("Worksheet 1"));
-        // Nothing is refreshed: the selector still shows the deleted worksheet.
-        QCOMPARE(selector(document), QString("Worksheet 1, Garage showing Garage"));
-
-        // Its index is now past the end: there is nothing to rename, and deleting again
-        // asks but finds nothing to delete.
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Shed"));
+        // The screens and the selector's text still show the deleted worksheet, but the list
+        // holds only the worksheets left, and nothing is chosen to rename or delete again.
+        QCOMPARE(selector(document), QString("Worksheet 1, Shed showing Garage"));
+        QCOMPARE(screen<ZOLWallEntryViewController>(document)->wallData(), garageWall);
         const size_t asked = alerts->alerts.size();
         document.renameWorksheet();
         QCOMPARE(alerts->alerts.size(), asked);
         alerts->answer(0);
         document.deleteWorksheet();
-        QCOMPARE(alerts->alerts.size(), asked + 1);
-        QCOMPARE(names(*document.workbook()), QString("Worksheet 1"));
-        // The screens still hold the deleted worksheet's records.
-        QCOMPARE(screen<ZOLWallEntryViewController>(document)->wallData(), garageWall);
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Shed"));
 
-        // Choosing a worksheet brings the selector up to date.
-        choose(document.worksheetSelection(), 0);
-        QCOMPARE(selector(document), QString("Worksheet 1 showing Worksheet 1"));
+        // Choosing a name loads that worksheet, and Rename then renames it.
+        choose(document.worksheetSelection(), 1);
+        QCOMPARE(screen<ZOLWallEntryViewController>(document)->wallData(), shed->wallData());
+        alerts->answer(0, "Barn");
+        document.renameWorksheet();
+        QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Barn"));
 
         // The last worksheet can go too, and comes back on opening.
-        alerts->answer(0);
-        document.deleteWorksheet();
+        for (int i = 0; i < 2; ++i) {
+            choose(document.worksheetSelection(), 0);
+            alerts->answer(0);
+            document.deleteWorksheet();
+        }
         QVERIFY(document.workbook()->worksheets().empty());
         const QString path = dir_.filePath("empty.zol");
         QVERIFY(document.saveToFile(path));
