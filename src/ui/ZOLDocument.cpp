@@ -132,9 +132,9 @@ void ZOLDocument::fitToScreen() {
     // The window frame is not known before the window manager has drawn it; leave room for a
     // title bar so that a 1366x768 laptop screen with a panel still shows the whole window.
     constexpr int kTitleBar = 40;
-    // The window stays wide enough for the header: a dozen letters in each field and every
+    // The window stays wide enough for the header: sixteen letters in each field and every
     // button's whole caption. The tabs scroll below that instead.
-    const int letters = fontMetrics().averageCharWidth() * 12;
+    const int letters = fontMetrics().averageCharWidth() * 16;
     for (QLineEdit* field :
          {ui_->projectName, ui_->clientName, ui_->projectVersion, ui_->distributorName})
         field->setMinimumWidth(letters);

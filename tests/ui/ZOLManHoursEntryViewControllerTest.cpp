@@ -43,13 +43,10 @@ private slots:
         QCOMPARE(hours->squareFeetOfWall(), 12.5);
         emit field("sqftWall")->editingFinished();
         QCOMPARE(field("sqftWall")->text(), QString("12.50"));
-        type(field("sqftWall"), "");
-        QCOMPARE(hours->squareFeetOfWall(), 12.5);
 
         QCOMPARE(box("crewSize")->currentText(), QString("6"));
         choose(box("crewSize"), 0);
         QCOMPARE(hours->crewSize(), 1);
-        QCOMPARE(box("rebarComplexity")->count(), 5);
         QCOMPARE(box("crewExperience")->count(), 3);
         choose(box("crewExperience"), 2);
         QCOMPARE(hours->crewExperience(), 2);
@@ -75,7 +72,6 @@ private slots:
         screen->setWallData(wall);
         screen->pullDataFromWall();
         expectTexts(screen.get(), "cornersAndTs=7|lfCorbelCurbTapered=12.50");
-        QCOMPARE(hours->crewSize(), 6);
         QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
     }
 
