@@ -603,9 +603,9 @@ def add_remove_straight():
     s.line(326, 318, 430, 272, INK, 3)
     s.text(500, 300, "-1", 22, "middle", INK, True)
     stepper(s, 60, 270, "2")
-    s.text(60, 330, "type a number or use the arrows", 13, "start", MUTED)
+    s.text(60, 330, "type a count, or step below zero", 13, "start", MUTED)
     return s.finish("Added or removed straight blocks",
-                    "Straight blocks to add to the order; a negative number removes them")
+                    "Straight blocks to add; the down arrow goes below zero to remove them")
 
 
 def corner_block_plan(s, x, y, a=110, b=70, t=10, c=16, fill=FOAM, hl=False):
@@ -638,7 +638,7 @@ def add_remove_corner():
     s.text(500, 310, "-1", 22, "middle", INK, True)
     stepper(s, 70, 310, "2")
     return s.finish("Added or removed corner blocks",
-                    "90° corner blocks to add to the order; a negative number removes them")
+                    "90° corner blocks to add; the down arrow goes below zero to remove them")
 
 
 def calora_info():

@@ -10,18 +10,23 @@
 #include "platform/ZOLAlerts.h"
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLBlockInfoViewController.h"
+#include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLJobSnapshot.h"
+#include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
+#include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLRecoveryStore.h"
 #include "ui/ZOLReportRenderer.h"
+#include "ui/ZOLResultFields.h"
 #include "ui/ZOLSavedPricesBar.h"
 #include "ui/ZOLSettingsPreferences.h"
+#include "ui/ZOLTiltEntryViewController.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
 #include "ui/ZOLWorkbookSummaryViewController.h"
@@ -126,8 +131,20 @@ void ZOLDocument::fitToScreen() {
     // The window frame is not known before the window manager has drawn it; leave room for a
     // title bar so that a 1366x768 laptop screen with a panel still shows the whole window.
     constexpr int kTitleBar = 40;
-    if (const QScreen* screen = QGuiApplication::primaryScreen())
-        resize(size().boundedTo(screen->availableGeometry().size() - QSize(0, kTitleBar)));
+    // The window stays wide enough for the header: sixteen letters in each field and every
+    // button's whole caption. The tabs scroll below that instead.
+    const int letters = fontMetrics().averageCharWidth() * 16;
+    for (QLineEdit* field :
+         {ui_->projectName, ui_->clientName, ui_->projectVersion, ui_->distributorName})
+        field->setMinimumWidth(letters);
+    const QMargins margins = ui_->mainLayout->contentsMargins();
+    QSize minimum(ui_->headerLayout->minimumSize().width() + margins.left() + margins.right(), 450);
+    if (const QScreen* screen = QGuiApplication::primaryScreen()) {
+        const QSize available = screen->availableGeometry().size() - QSize(0, kTitleBar);
+        minimum = minimum.boundedTo(available);
+        resize(size().boundedTo(available));
+    }
+    setMinimumSize(minimum);
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -145,6 +162,7 @@ Controller* ZOLDocument::addScreen(
     scrollView->setFocusPolicy(Qt::NoFocus); // Tab goes from the tab bar into the screen's fields
     auto* controller = new Controller(scrollView);
     scrollView->setWidget(controller);
+    ZOLResultFields::fitToText(controller);
     scrollView->setProperty("tabName", QString::fromLatin1(tabName));
     // Tab moves on from a table to the next control (arrow keys move between its cells);
     // otherwise the focus would go round the table's cells for ever.
@@ -159,8 +177,7 @@ Controller* ZOLDocument::addScreen(
 }
 
 // The screens in the order in which they receive their records; the tabs show in this order.
-// The rebar, concrete, tilt-up, man-hours and job summary screens take their places between
-// and after these when they come.
+// The job summary screen comes last when it comes.
 void ZOLDocument::installScreens() {
     using Sheet = std::shared_ptr<ZOLWorksheet>;
     auto* wallEntry = addScreen<ZOLWallEntryViewController>(
@@ -190,6 +207,29 @@ void ZOLDocument::installScreens() {
         [this](ZOLWorkbookSummaryViewController* screen, const Sheet&, const std::string&) {
             screen->setWorkbook(workbook_);
         });
+    auto* concreteEntry = addScreen<ZOLConcreteEntryViewController>(
+        tr("Concrete"), "concreteEntryScrollView", "concreteEntryTab",
+        [](ZOLConcreteEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setConcreteData(sheet->concreteData());
+            screen->setWallData(sheet->wallData());
+        });
+    auto* rebarEntry = addScreen<ZOLRebarEntryViewController>(
+        tr("Rebar"), "rebarEntryScrollView", "rebarEntryTab",
+        [](ZOLRebarEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setRebarData(sheet->rebarData());
+            screen->setWallData(sheet->wallData());
+        });
+    auto* tiltEntry = addScreen<ZOLTiltEntryViewController>(
+        tr("Tilt-Up"), "tiltEntryScrollView", "tiltEntryTab",
+        [](ZOLTiltEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setTiltData(sheet->tiltData());
+        });
+    auto* manHoursEntry = addScreen<ZOLManHoursEntryViewController>(
+        tr("Man-Hours"), "manHoursEntryScrollView", "manHoursEntryTab",
+        [](ZOLManHoursEntryViewController* screen, const Sheet& sheet, const std::string&) {
+            screen->setManHourData(sheet->manHourData());
+            screen->setWallData(sheet->wallData());
+        });
 
     // Screens write straight into the records; the document only learns that something changed.
     connect(wallEntry, &ZOLWallEntryViewController::edited, this, &ZOLDocument::noteEdit);
@@ -200,6 +240,10 @@ void ZOLDocument::installScreens() {
             &ZOLDocument::noteEdit);
     connect(workbookSummary_, &ZOLWorkbookSummaryViewController::editPricingRequested, this,
             &ZOLDocument::editPricing);
+    connect(concreteEntry, &ZOLConcreteEntryViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(rebarEntry, &ZOLRebarEntryViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(tiltEntry, &ZOLTiltEntryViewController::edited, this, &ZOLDocument::noteEdit);
+    connect(manHoursEntry, &ZOLManHoursEntryViewController::edited, this, &ZOLDocument::noteEdit);
 }
 
 QWidget* ZOLDocument::screenNamed(const QString& objectName) const {
@@ -341,8 +385,17 @@ void ZOLDocument::deleteWorksheet() {
         return;
     sheets.erase(sheets.begin() + index);
     workbook_->setWorksheets(std::move(sheets));
-    // The window is left as it stands: the selector and the screens still show the deleted
-    // worksheet until another one is chosen.
+    // The screens and the selector's text still show the deleted worksheet until another one
+    // is chosen, but the selector offers only the worksheets that remain, each under its own
+    // name; nothing is chosen in it, so Rename and Delete find no worksheet to act on.
+    QComboBox* box = ui_->worksheetSelection;
+    const QString shown = box->currentText();
+    reloadWorksheetSelector();
+    {
+        const QSignalBlocker blocker(box);
+        box->setPlaceholderText(shown);
+        box->setCurrentIndex(-1);
+    }
     noteEdit();
 }
 
@@ -353,8 +406,7 @@ void ZOLDocument::editNotes() {
                              "Notes are kept on this computer with the job and print with the "
                              "report; the workbook file does not carry them.",
                              {"Done", "Cancel"}},
-                            notes,
-                            ZOLFieldAlertPresenter::Field::Text) != 0)
+                            notes, ZOLFieldAlertPresenter::Field::Text) != 0)
         return;
     workbook_->setNotes(notes);
     noteEdit();
@@ -418,8 +470,7 @@ QByteArray ZOLDocument::jobState() const {
     return dataOfType() + QByteArray(1, '\0') + ZOLJobSnapshot::capture(*workbook_);
 }
 
-std::shared_ptr<ZOLWorkbook> ZOLDocument::readWorkbook(const QByteArray& bytes,
-                                                       bool* wrongFormat) {
+std::shared_ptr<ZOLWorkbook> ZOLDocument::readWorkbook(const QByteArray& bytes, bool* wrongFormat) {
     const auto result = ZOLWorkbookReader::readWorkbookData(
         std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
     if (wrongFormat)

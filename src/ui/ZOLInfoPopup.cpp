@@ -84,6 +84,15 @@ void ZOLInfoPopup::display(QWidget* parent, int32_t index) {
     popup.exec();
 }
 
+void ZOLInfoPopup::displayNamed(QWidget* parent, const std::optional<std::string>& name) {
+    ZOLInfoPopup popup(parent ? parent->window() : nullptr);
+    if (name)
+        popup.setImageName(*name);
+    else
+        popup.renderImage();
+    popup.exec();
+}
+
 void ZOLInfoPopup::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     renderImage();
@@ -97,9 +106,15 @@ void ZOLInfoPopup::showEvent(QShowEvent* event) {
 void ZOLInfoPopup::renderImage() {
     QLabel* target = ui_->infoImage;
     if (!renderer_) {
+        // No picture: a short note on the window's own background instead of an empty white
+        // frame, and a pop-up only as large as the note.
         target->setPixmap(QPixmap());
-        target->setText(imageName_ ? tr("No illustration is available for this field.")
-                                   : QString());
+        target->setStyleSheet(QString());
+        target->setMinimumSize(0, 0);
+        target->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+        target->setText(tr("There is no illustration for this item."));
+        if (!isVisible())
+            resize(minimumSizeHint().expandedTo(QSize(360, 0)));
         return;
     }
     // Drawn at the screen's pixel density so that lines stay crisp on high-resolution screens.

@@ -36,6 +36,8 @@ public:
     // Opens the pop-up modally over the window of parent and waits until it is closed. An
     // index of -1 opens it without an illustration.
     static void display(QWidget* parent, int32_t index);
+    // The same, by illustration name; nothing opens the pop-up without an illustration.
+    static void displayNamed(QWidget* parent, const std::optional<std::string>& name);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

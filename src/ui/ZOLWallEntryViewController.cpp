@@ -7,11 +7,13 @@
 #include "io/ZOLNumeric.h"
 #include "io/ZOLText.h"
 #include "model/ZOLWall.h"
+#include "ui/ZOLEntryFields.h"
 #include "ui/ZOLInfoPopup.h"
+#include "ui/ZOLInfoShortcut.h"
 #include "ui/ZOLStepper.h"
+#include "ui/ZOLWallHeightBox.h"
 
 #include <array>
-#include <tuple>
 
 namespace {
 
@@ -32,18 +34,6 @@ constexpr int32_t kTapered = 9;
 constexpr int32_t kRadius = 10;
 constexpr int32_t kBuck = 11;
 
-template <typename Get, typename Set> auto decimalField(QLineEdit* edit, Get get, Set set) {
-    return std::make_tuple(
-        edit, [get](const ZOLWall& w) { return ZOLFormat::format("%.2f", (w.*get)()); },
-        [set](ZOLWall& w, std::string_view text) { (w.*set)(ZOLText::leadingDouble(text)); });
-}
-
-template <typename Get, typename Set> auto countField(QLineEdit* edit, Get get, Set set) {
-    return std::make_tuple(
-        edit, [get](const ZOLWall& w) { return ZOLFormat::format("%d", (w.*get)()); },
-        [set](ZOLWall& w, std::string_view text) { (w.*set)(ZOLText::leadingInt(text)); });
-}
-
 } // namespace
 
 ZOLWallEntryViewController::ZOLWallEntryViewController(QWidget* parent)
@@ -51,49 +41,31 @@ ZOLWallEntryViewController::ZOLWallEntryViewController(QWidget* parent)
     ui_->setupUi(this);
 
     // The height box lists the 16-inch courses as feet and inches.
-    const auto& heights = ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches();
-    for (size_t i = 0; i < heights.size(); ++i)
-        ui_->wallHeight->addItem(
-            qs(ZOLCalculatorMaster::getWallHeightTextAtSixteenInchesForIndex(i)));
+    ZOLWallHeightBox::fill(ui_->wallHeight,
+                           ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches());
 
-    auto add = [this](auto binding, ZOLStepper* stepper = nullptr) {
-        auto [edit, show, write] = binding;
-        fields_.push_back(TextField{edit, show, write, stepper});
-    };
-    add(decimalField(ui_->wallLength, &ZOLWall::wallLength, &ZOLWall::setWallLength));
-    add(countField(ui_->insideCornerLocations, &ZOLWall::insideCornerLocations,
-                   &ZOLWall::setInsideCornerLocations));
-    add(countField(ui_->outsideCornerLocations, &ZOLWall::outsideCornerLocations,
-                   &ZOLWall::setOutsideCornerLocations));
-    add(countField(ui_->angleLocations, &ZOLWall::angleLocations, &ZOLWall::setAngleLocations));
-    add(countField(ui_->tBlockLocations, &ZOLWall::tBlockLocations, &ZOLWall::setTBlockLocations));
-    add(decimalField(ui_->lfCorbelBlock, &ZOLWall::linearFeetCorbel,
-                     &ZOLWall::setLinearFeetCorbel));
-    add(decimalField(ui_->lfCurbBlock, &ZOLWall::linearFeetCurb, &ZOLWall::setLinearFeetCurb));
-    add(countField(ui_->cornerCurbLocations, &ZOLWall::curbCornerLocations,
-                   &ZOLWall::setCurbCornerLocations));
-    add(decimalField(ui_->lfTaperedBlock, &ZOLWall::linearFeetTapered,
-                     &ZOLWall::setLinearFeetTapered));
-    add(decimalField(ui_->lfRadiusBlock, &ZOLWall::linearFeetRadius,
-                     &ZOLWall::setLinearFeetRadius));
-    add(decimalField(ui_->sqftOpenings, &ZOLWall::sqftOpenings, &ZOLWall::setSqftOpenings));
-    add(decimalField(ui_->lfZolBuck, &ZOLWall::linearFeetBuck, &ZOLWall::setLinearFeetBuck));
-    add(decimalField(ui_->lfBrick, &ZOLWall::pelmoBrickLength, &ZOLWall::setPelmoBrickLength));
-    add(decimalField(ui_->brickHeight, &ZOLWall::pelmoBrickHeight, &ZOLWall::setPelmoBrickHeight));
-    add(countField(ui_->addedStraightBlocks, &ZOLWall::straightBlockAdded,
-                   &ZOLWall::setStraightBlockAdded),
-        ui_->addStraightStepper);
-    add(countField(ui_->addedCornerBlocks, &ZOLWall::cornerBlockAdded,
-                   &ZOLWall::setCornerBlockAdded),
-        ui_->addCornerStepper);
-
-    for (size_t i = 0; i < fields_.size(); ++i) {
-        QLineEdit* edit = fields_[i].edit;
-        connect(edit, &QLineEdit::textEdited, this,
-                [this, i] { controlTextDidChange(fields_[i]); });
-        connect(edit, &QLineEdit::editingFinished, this,
-                [this, i] { controlTextDidEndEditing(fields_[i]); });
-    }
+    using W = ZOLWall;
+    fields_.addDecimal(ui_->wallLength, &W::wallLength, &W::setWallLength);
+    fields_.addCount(ui_->insideCornerLocations, &W::insideCornerLocations,
+                     &W::setInsideCornerLocations);
+    fields_.addCount(ui_->outsideCornerLocations, &W::outsideCornerLocations,
+                     &W::setOutsideCornerLocations);
+    fields_.addCount(ui_->angleLocations, &W::angleLocations, &W::setAngleLocations);
+    fields_.addCount(ui_->tBlockLocations, &W::tBlockLocations, &W::setTBlockLocations);
+    fields_.addDecimal(ui_->lfCorbelBlock, &W::linearFeetCorbel, &W::setLinearFeetCorbel);
+    fields_.addDecimal(ui_->lfCurbBlock, &W::linearFeetCurb, &W::setLinearFeetCurb);
+    fields_.addCount(ui_->cornerCurbLocations, &W::curbCornerLocations, &W::setCurbCornerLocations);
+    fields_.addDecimal(ui_->lfTaperedBlock, &W::linearFeetTapered, &W::setLinearFeetTapered);
+    fields_.addDecimal(ui_->lfRadiusBlock, &W::linearFeetRadius, &W::setLinearFeetRadius);
+    fields_.addDecimal(ui_->sqftOpenings, &W::sqftOpenings, &W::setSqftOpenings);
+    fields_.addDecimal(ui_->lfZolBuck, &W::linearFeetBuck, &W::setLinearFeetBuck);
+    fields_.addDecimal(ui_->lfBrick, &W::pelmoBrickLength, &W::setPelmoBrickLength);
+    fields_.addDecimal(ui_->brickHeight, &W::pelmoBrickHeight, &W::setPelmoBrickHeight);
+    fields_.addCount(ui_->addedStraightBlocks, &W::straightBlockAdded, &W::setStraightBlockAdded);
+    fields_.addCount(ui_->addedCornerBlocks, &W::cornerBlockAdded, &W::setCornerBlockAdded);
+    fields_.connect(
+        this, [this]() -> ZOLWall& { return wall(); },
+        [this](const ZOLEntryFields<ZOLWall>::Field& field) { controlTextDidChange(field.edit); });
 
     for (QComboBox* box :
          {ui_->wallHeight, ui_->blockSize, ui_->radius, ui_->caloraStickLayers, ui_->pelmoPerBlock})
@@ -118,6 +90,23 @@ ZOLWallEntryViewController::ZOLWallEntryViewController(QWidget* parent)
         QToolButton* b = button;
         connect(b, &QToolButton::clicked, this, [this, b] { displayInfo(b); });
     }
+    // F1 in a field opens the illustration of the "?" button beside it.
+    ZOLInfoShortcut::install(ui_->wallHeightInfo, {ui_->wallHeight});
+    ZOLInfoShortcut::install(ui_->halfBlockInfo, {ui_->addHalfBlock, ui_->addCutBlock});
+    ZOLInfoShortcut::install(ui_->extendersInfo, {ui_->addExtenders});
+    ZOLInfoShortcut::install(ui_->wallLengthInfo, {ui_->wallLength});
+    ZOLInfoShortcut::install(ui_->cornerInfo,
+                             {ui_->insideCornerLocations, ui_->outsideCornerLocations});
+    ZOLInfoShortcut::install(ui_->angleInfo, {ui_->angleLocations});
+    ZOLInfoShortcut::install(ui_->tBlockInfo, {ui_->tBlockLocations});
+    ZOLInfoShortcut::install(ui_->corbelInfo, {ui_->lfCorbelBlock});
+    ZOLInfoShortcut::install(ui_->curbInfo, {ui_->lfCurbBlock, ui_->cornerCurbLocations});
+    ZOLInfoShortcut::install(ui_->taperedInfo, {ui_->lfTaperedBlock});
+    ZOLInfoShortcut::install(ui_->radiusInfo, {ui_->lfRadiusBlock, ui_->radius});
+    ZOLInfoShortcut::install(ui_->zolBuckInfo, {ui_->lfZolBuck});
+    ZOLInfoShortcut::install(ui_->addStraightInfo, {ui_->addedStraightBlocks});
+    ZOLInfoShortcut::install(ui_->addCornerInfo, {ui_->addedCornerBlocks});
+    ZOLInfoShortcut::install(ui_->caloraStickInfo, {ui_->caloraStickLayers});
 }
 
 ZOLWallEntryViewController::~ZOLWallEntryViewController() {
@@ -142,8 +131,7 @@ void ZOLWallEntryViewController::loadValues() {
     ui_->addCutBlock->setChecked(w.useCutBlock());
     ui_->addHalfBlock->setChecked(w.useHalfBlock());
     ui_->addExtenders->setChecked(w.useExtenders());
-    for (const TextField& field : fields_)
-        field.edit->setText(qs(field.show(w)));
+    fields_.load(w);
     ui_->addStraightStepper->setValue(w.straightBlockAdded());
     ui_->addCornerStepper->setValue(w.cornerBlockAdded());
     loadWallHeight();
@@ -159,19 +147,9 @@ void ZOLWallEntryViewController::loadValues() {
 }
 
 void ZOLWallEntryViewController::loadWallHeight() {
-    const double height = wall().wallHeight();
-    const auto& heights = ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches();
-    int found = -1;
-    for (size_t i = 0; i < heights.size(); ++i) {
-        if (heights[i] == height) {
-            found = static_cast<int>(i);
-            break;
-        }
-    }
-    // A height from a file that is not a 16-inch course shows its own text, unselected.
-    ui_->wallHeight->setPlaceholderText(
-        found < 0 ? qs(ZOLCalculatorMaster::convertFeetToText(height)) : QString());
-    ui_->wallHeight->setCurrentIndex(found);
+    ZOLWallHeightBox::select(ui_->wallHeight,
+                             ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches(),
+                             wall().wallHeight());
 }
 
 void ZOLWallEntryViewController::selectItem(QComboBox* box, int32_t value) {
@@ -194,40 +172,14 @@ void ZOLWallEntryViewController::toggleControlsAvailable() {
     ui_->lfZolBuck->setEnabled(valid(kBuck));
 }
 
-void ZOLWallEntryViewController::controlTextDidChange(const TextField& field) {
-    const QString typed = field.edit->text();
-    const std::string utf8 = typed.toStdString();
-    const std::optional<std::string> cleaned = ZOLText::entryFieldText(utf8);
-    if (!cleaned)
-        return; // an emptied field changes nothing until something is typed
-    if (*cleaned != utf8) {
-        // Keep the cursor after the same characters it followed before the cleaning.
-        // When nothing was kept the field shows "0" and the cursor goes after it.
-        const qsizetype cursor = field.edit->cursorPosition();
-        qsizetype keptBefore = 0;
-        qsizetype kept = 0;
-        for (qsizetype i = 0; i < typed.size(); ++i) {
-            const QChar c = typed[i];
-            if ((c >= u'0' && c <= u'9') || c == u'.') {
-                ++kept;
-                if (i < cursor)
-                    ++keptBefore;
-            }
-        }
-        const QString shown = qs(*cleaned);
-        field.edit->setText(shown);
-        field.edit->setCursorPosition(static_cast<int>(kept == 0 ? shown.size() : keptBefore));
-    }
-    field.write(wall(), *cleaned);
+void ZOLWallEntryViewController::controlTextDidChange(QLineEdit* edit) {
     // The stepper continues from the typed number.
-    if (field.stepper)
-        field.stepper->setValue(ZOLText::leadingInt(*cleaned));
+    if (edit == ui_->addedStraightBlocks)
+        ui_->addStraightStepper->setValue(wall().straightBlockAdded());
+    else if (edit == ui_->addedCornerBlocks)
+        ui_->addCornerStepper->setValue(wall().cornerBlockAdded());
     refreshResults();
     emit edited();
-}
-
-void ZOLWallEntryViewController::controlTextDidEndEditing(const TextField& field) {
-    field.edit->setText(qs(field.show(wall())));
 }
 
 void ZOLWallEntryViewController::comboBoxSelectionDidChange(QComboBox* box, int index) {
@@ -235,11 +187,11 @@ void ZOLWallEntryViewController::comboBoxSelectionDidChange(QComboBox* box, int 
         return;
     ZOLWall& w = wall();
     if (box == ui_->wallHeight) {
-        const auto& heights = ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches();
-        if (static_cast<size_t>(index) >= heights.size())
+        const auto height = ZOLWallHeightBox::chosen(
+            box, ZOLCalculatorMaster::getAvailableWallHeightsAtSixteenInches(), index);
+        if (!height)
             return;
-        w.setWallHeight(heights[static_cast<size_t>(index)]);
-        ui_->wallHeight->setPlaceholderText(QString());
+        w.setWallHeight(*height);
     } else if (box == ui_->radius) {
         w.setRadius(ZOLNumeric::wrapAdd(index, 5));
     } else if (box == ui_->caloraStickLayers) {

@@ -1,4 +1,6 @@
 #pragma once
+#include "ui/ZOLEntryFields.h"
+
 #include <QWidget>
 
 #include <cstdint>
@@ -41,18 +43,9 @@ signals:
     void edited();
 
 private:
-    // One text field and the wall field behind it: how the field shows the wall's value and
-    // how a typed text is written into the wall.
-    struct TextField {
-        QLineEdit* edit;
-        std::function<std::string(const ZOLWall&)> show;
-        std::function<void(ZOLWall&, std::string_view)> write;
-        ZOLStepper* stepper = nullptr; // the added-block fields carry a stepper
-    };
-
     ZOLWall& wall();
-    void controlTextDidChange(const TextField& field);
-    void controlTextDidEndEditing(const TextField& field);
+    // After a keystroke has written the field's value into the wall.
+    void controlTextDidChange(QLineEdit* edit);
     void comboBoxSelectionDidChange(QComboBox* box, int index);
     void checkboxChanged(QCheckBox* box);
     void addStraightBlockStep();
@@ -65,6 +58,6 @@ private:
 
     std::unique_ptr<Ui::ZOLWallEntryViewController> ui_;
     std::shared_ptr<ZOLWall> wallData_;
-    std::vector<TextField> fields_;
+    ZOLEntryFields<ZOLWall> fields_;
     std::vector<std::pair<QToolButton*, int32_t>> infoButtons_;
 };

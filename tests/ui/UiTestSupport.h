@@ -71,6 +71,18 @@ inline void expectTexts(const QObject* parent, const QString& texts) {
     }
 }
 
+// A screen as the document shows it: made, handed its records by `hand`, loaded and shown.
+template <class Screen>
+std::unique_ptr<Screen> shownScreen(const std::function<void(Screen&)>& hand) {
+    auto screen = std::make_unique<Screen>();
+    hand(*screen);
+    screen->loadValues();
+    screen->show();
+    if (!QTest::qWaitForWindowExposed(screen.get()))
+        qFatal("the screen did not show");
+    return screen;
+}
+
 // Replaces a field's text by typing, one keystroke at a time, as a user would.
 inline void type(QLineEdit* edit, const QString& keys) {
     edit->setFocus();

@@ -1,0 +1,100 @@
+// The Man-Hours tab driven through its widgets: the fields and lists, the results they give,
+// pulling the wall's facts and the illustration each "?" button and F1 open.
+#include "ui/ZOLManHoursEntryViewController.h"
+#include "UiTestSupport.h"
+#include "model/ZOLManHours.h"
+#include "model/ZOLWall.h"
+#include "ui/ZOLInfoPopup.h"
+
+class ZOLManHoursEntryViewControllerTest : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<ZOLManHoursEntryViewController> screen;
+    std::shared_ptr<ZOLManHours> hours;
+    std::shared_ptr<AlertRecorder> alerts = std::make_shared<AlertRecorder>();
+
+    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
+    QComboBox* box(const char* name) { return control<QComboBox>(screen.get(), name); }
+    // The illustration the pop-up opened by `act` asked for ("none" without one).
+    QString popupAfter(const std::function<void()>& act) {
+        QString shown = "not opened";
+        whenModalShows([&shown](QWidget* modal) {
+            auto* popup = qobject_cast<ZOLInfoPopup*>(modal);
+            shown = popup && popup->imageName() ? QString::fromStdString(*popup->imageName())
+                                                : QString("none");
+            modal->close();
+        });
+        act();
+        return shown;
+    }
+
+private slots:
+    void initTestCase() { ZOLAlerts::setPresenter(alerts); }
+    void init() {
+        hours = std::make_shared<ZOLManHours>();
+        screen = shownScreen<ZOLManHoursEntryViewController>(
+            [this](auto& s) { s.setManHourData(hours); });
+    }
+    void cleanup() { screen.reset(); }
+
+    void typingAndChoosingRecomputeTheLabour() {
+        type(field("sqftWall"), "1a2.5");
+        QCOMPARE(field("sqftWall")->text(), QString("12.5"));
+        QCOMPARE(hours->squareFeetOfWall(), 12.5);
+        emit field("sqftWall")->editingFinished();
+        QCOMPARE(field("sqftWall")->text(), QString("12.50"));
+
+        QCOMPARE(box("crewSize")->currentText(), QString("6"));
+        choose(box("crewSize"), 0);
+        QCOMPARE(hours->crewSize(), 1);
+        QCOMPARE(box("crewExperience")->count(), 3);
+        choose(box("crewExperience"), 2);
+        QCOMPARE(hours->crewExperience(), 2);
+        QCOMPARE(control<QLabel>(screen.get(), "crewExperienceGrade")->text(), QString("2"));
+
+        type(field("sqftWall"), "2000");
+        type(field("costPerHour"), "40");
+        const double cost = hours->getHoursToComplete() * 40.0;
+        QCOMPARE(field("targetManHours")->text(),
+                 QString::asprintf("%.3f", hours->getManHourRate()));
+        QCOMPARE(field("costOfLabor")->text(), QString::asprintf("$%.2f", cost));
+        QCOMPARE(field("costPerSqFt")->text(), QString::asprintf("$%.2f", cost / 2000.0));
+    }
+
+    void pullDataAddsCornersAngleAndTs() {
+        auto wall = std::make_shared<ZOLWall>();
+        wall->setInsideCornerLocations(2);
+        wall->setOutsideCornerLocations(3);
+        wall->setTBlockLocations(1);
+        wall->setAngleLocations(1);
+        wall->setLinearFeetCorbel(10.0);
+        wall->setLinearFeetTapered(2.5);
+        screen->setWallData(wall);
+        screen->pullDataFromWall();
+        expectTexts(screen.get(), "cornersAndTs=7|lfCorbelCurbTapered=12.50");
+        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
+    }
+
+    void infoButtonsAndF1OpenTheirIllustrations() {
+        // The corbel and wall-height keys name their fields: those buttons open no picture.
+        const char* const buttons[][2] = {{"sqftWallInfo", "Square_Feet_Wall_Info"},
+                                          {"otherTurnsInfo", "Other_Turns_Info"},
+                                          {"lfCorbelCurbTaperedInfo", "none"},
+                                          {"wallHeightInfo", "none"}};
+        for (const auto& [name, key] : buttons)
+            QCOMPARE(popupAfter([&] { control<QToolButton>(screen.get(), name)->click(); }),
+                     QString(key));
+        QCOMPARE(control<QToolButton>(screen.get(), "sqftWallInfo")->focusPolicy(), Qt::ClickFocus);
+
+        // F1 in the corbel field finds the field's own key.
+        QApplication::setActiveWindow(screen.get());
+        QVERIFY(QTest::qWaitForWindowActive(screen.get()));
+        QLineEdit* corbel = field("lfCorbelCurbTapered");
+        corbel->setFocus();
+        QCOMPARE(popupAfter([&] { QTest::keyClick(corbel, Qt::Key_F1); }),
+                 QString("LF_Corbel_Curb_Taper_Info"));
+    }
+};
+
+QTEST_MAIN(ZOLManHoursEntryViewControllerTest)
+#include "ZOLManHoursEntryViewControllerTest.moc"
