@@ -15,6 +15,7 @@
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLJobSnapshot.h"
+#include "ui/ZOLJobSummaryViewController.h"
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
@@ -177,7 +178,7 @@ Controller* ZOLDocument::addScreen(
 }
 
 // The screens in the order in which they receive their records; the tabs show in this order.
-// The job summary screen comes last when it comes.
+// The job summary screen comes last.
 void ZOLDocument::installScreens() {
     using Sheet = std::shared_ptr<ZOLWorksheet>;
     auto* wallEntry = addScreen<ZOLWallEntryViewController>(
@@ -236,14 +237,20 @@ void ZOLDocument::installScreens() {
     connect(openingsEntry, &ZOLOpeningsEntryViewController::edited, this, &ZOLDocument::noteEdit);
     connect(blockInfo, &ZOLBlockInfoViewController::edited, this, &ZOLDocument::noteEdit);
     connect(wallInfo, &ZOLWallInfoViewController::edited, this, &ZOLDocument::noteEdit);
-    connect(workbookSummary_, &ZOLWorkbookSummaryViewController::edited, this,
-            &ZOLDocument::noteEdit);
     connect(workbookSummary_, &ZOLWorkbookSummaryViewController::editPricingRequested, this,
             &ZOLDocument::editPricing);
     connect(concreteEntry, &ZOLConcreteEntryViewController::edited, this, &ZOLDocument::noteEdit);
     connect(rebarEntry, &ZOLRebarEntryViewController::edited, this, &ZOLDocument::noteEdit);
     connect(tiltEntry, &ZOLTiltEntryViewController::edited, this, &ZOLDocument::noteEdit);
     connect(manHoursEntry, &ZOLManHoursEntryViewController::edited, this, &ZOLDocument::noteEdit);
+
+    // The job summary comes last, after every estimate that adds lines to it.
+    auto* jobSummary = addScreen<ZOLJobSummaryViewController>(
+        tr("Job Summary"), "jobSummaryScrollView", "jobSummaryTab",
+        [this](ZOLJobSummaryViewController* screen, const Sheet&, const std::string&) {
+            screen->setWorkbook(workbook_);
+        });
+    connect(jobSummary, &ZOLJobSummaryViewController::edited, this, &ZOLDocument::noteEdit);
 }
 
 QWidget* ZOLDocument::screenNamed(const QString& objectName) const {
@@ -418,6 +425,7 @@ void ZOLDocument::editPricing() {
     if (workbookSummary_)
         workbookSummary_->loadValues();
     updateSavedPricesBar();
+    tabViewDidSelect(ui_->tabView->currentIndex()); // the job summary prices from the list too
     noteEdit();
 }
 

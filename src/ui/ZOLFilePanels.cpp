@@ -29,6 +29,8 @@ QString ZOLFilePanels::filterFor(const QString& suffix) {
         return QObject::tr("Zol Estimator workbooks (*.zol)");
     if (suffix == "zp")
         return QObject::tr("Zol price lists (*.zp)");
+    if (suffix == "zci")
+        return QObject::tr("Zol job summary templates (*.zci)");
     if (suffix == "pdf")
         return QObject::tr("PDF documents (*.pdf)");
     return QStringLiteral("*.%1").arg(suffix);

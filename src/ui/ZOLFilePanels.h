@@ -16,7 +16,7 @@ public:
     struct Request {
         Kind kind;
         QString title;
-        QString suffix;        // "zol", "zp", "pdf"
+        QString suffix;        // "zol", "zp", "zci", "pdf"
         QString suggestedName; // save panels only
     };
 

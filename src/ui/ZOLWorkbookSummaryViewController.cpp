@@ -116,8 +116,6 @@ ZOLWorkbookSummaryViewController::ZOLWorkbookSummaryViewController(QWidget* pare
         if (QTableWidgetItem* item = ui_->summaryTable->horizontalHeaderItem(column))
             item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
-    connect(ui_->roundToFullBundles, &QCheckBox::toggled, this,
-            &ZOLWorkbookSummaryViewController::checkboxChanged);
     connect(ui_->editPricing, &QPushButton::clicked, this,
             &ZOLWorkbookSummaryViewController::editPricingRequested);
 }
@@ -128,23 +126,11 @@ void ZOLWorkbookSummaryViewController::setWorkbook(std::shared_ptr<ZOLWorkbook> 
     workbook_ = std::move(workbook);
 }
 
-void ZOLWorkbookSummaryViewController::checkboxChanged(bool checked) {
-    if (!workbook_ || workbook_->roundToFullBundles() == checked)
-        return;
-    workbook_->setRoundToFullBundles(checked);
-    loadValues();
-    emit edited();
-}
-
 void ZOLWorkbookSummaryViewController::loadValues() {
     QTableWidget* table = ui_->summaryTable;
     if (!workbook_) {
         table->setRowCount(0);
         return;
-    }
-    {
-        const QSignalBlocker blocker(ui_->roundToFullBundles);
-        ui_->roundToFullBundles->setChecked(workbook_->roundToFullBundles());
     }
     const Summary summary = summarize(*workbook_);
     ui_->grossSquareFeet->setText(qs(ZOLFormat::format("%.2f", summary.grossSquareFeet)));

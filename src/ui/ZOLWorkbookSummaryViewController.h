@@ -12,8 +12,8 @@ class ZOLWorkbookSummaryViewController;
 }
 
 // The Workbook Summary tab: the blocks and accessories of every worksheet, priced from the
-// price list, as the printed workbook summary lists them, with the workbook's round-to-full-
-// bundles switch and a way to the price list.
+// price list, as the printed workbook summary lists them (never rounded to full bundles), with
+// a way to the price list.
 class ZOLWorkbookSummaryViewController : public QWidget {
     Q_OBJECT
 
@@ -48,12 +48,9 @@ public:
     static constexpr const char* kSignName = "Zol Blocks Job Site Sign";
 
 signals:
-    void edited();
     void editPricingRequested();
 
 private:
-    void checkboxChanged(bool checked);
-
     std::unique_ptr<Ui::ZOLWorkbookSummaryViewController> ui_;
     std::shared_ptr<ZOLWorkbook> workbook_;
 };

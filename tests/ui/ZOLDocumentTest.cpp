@@ -12,6 +12,7 @@
 #include "ui/ZOLBlockInfoViewController.h"
 #include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
+#include "ui/ZOLJobSummaryViewController.h"
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLRebarEntryViewController.h"
@@ -97,7 +98,7 @@ private slots:
             titles << document.tabView()->tabText(i);
         QCOMPARE(titles.join(", "),
                  QString("Wall Entry, Openings, Block Info, Wall Info, Workbook Summary, Concrete, "
-                         "Rebar, Tilt-Up, Man-Hours"));
+                         "Rebar, Tilt-Up, Man-Hours, Job Summary"));
 
         const auto sheet = document.workbook()->worksheets()[0];
         auto* wallEntry = screen<ZOLWallEntryViewController>(document);
@@ -116,6 +117,7 @@ private slots:
         QCOMPARE(screen<ZOLTiltEntryViewController>(document)->tiltData(), sheet->tiltData());
         QCOMPARE(screen<ZOLManHoursEntryViewController>(document)->manHourData(),
                  sheet->manHourData());
+        QCOMPARE(screen<ZOLJobSummaryViewController>(document)->workbook(), document.workbook());
 
         // Choosing another worksheet hands its records to every screen.
         add(document, "Garage");

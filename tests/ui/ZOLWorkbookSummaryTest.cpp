@@ -1,5 +1,5 @@
 // The workbook summary tab: the job's blocks and accessories priced line by line, the same
-// lines and totals as the printed workbook summary, and the round-to-full-bundles switch.
+// lines and totals as the printed workbook summary.
 #include "UiTestSupport.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLPriceItem.h"
@@ -85,7 +85,7 @@ private slots:
         QVERIFY(page.find(totals) != std::string::npos);
     }
 
-    void screenShowsTheLinesTheSignTheTotalsAndTheSwitch() {
+    void screenShowsTheLinesTheSignAndTheTotals() {
         const auto workbook = job();
         ZOLWorkbookSummaryViewController screen;
         screen.setWorkbook(workbook);
@@ -105,18 +105,6 @@ private slots:
         QVERIFY(table->item(0, 1)->textAlignment() & Qt::AlignRight);
         expectTexts(&screen, QString::fromStdString(ZOLFormat::format(
                                  "grossSquareFeet=%.2f", workbook->getTotalGrossSquareFeet())));
-
-        // Round to full bundles is the workbook's switch; loading is no edit.
-        QSignalSpy edited(&screen, &ZOLWorkbookSummaryViewController::edited);
-        auto* box = screen.findChild<QCheckBox*>("roundToFullBundles");
-        QVERIFY(!box->isChecked());
-        QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(6, box->height() / 2));
-        QVERIFY(workbook->roundToFullBundles());
-        QCOMPARE(edited.count(), 1);
-        workbook->setRoundToFullBundles(false);
-        screen.loadValues();
-        QVERIFY(!box->isChecked());
-        QCOMPARE(edited.count(), 1); // loading is no edit
 
         // Without a single block there is nothing to price.
         workbook->setWorksheets({std::make_shared<ZOLWorksheet>("Empty")});
