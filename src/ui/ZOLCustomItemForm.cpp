@@ -51,6 +51,7 @@ ZOLCustomItemForm::ZOLCustomItemForm(std::shared_ptr<ZOLCustomItem> customItem, 
             fixed->setFocusPolicy(Qt::ClickFocus);
     }
     ui_->generatedNote->setVisible(generated_);
+    adjustSize();
 
     for (QLineEdit* number : {ui_->quantity, ui_->pricePerUnit})
         connect(number, &QLineEdit::textEdited, this,
