@@ -1,8 +1,13 @@
 #include "ui/ZOLFilePanels.h"
 
+#include "io/ZOLFileBytes.h"
+#include "io/ZOLReadCheck.h"
+#include "io/ZOLSaxParser.h"
+#include "platform/ZOLAlerts.h"
 #include "ui/ZOLSettingsPreferences.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSettings>
@@ -34,6 +39,14 @@ QString ZOLFilePanels::filterFor(const QString& suffix) {
     if (suffix == "pdf")
         return QObject::tr("PDF documents (*.pdf)");
     return QStringLiteral("*.%1").arg(suffix);
+}
+
+std::optional<std::string> ZOLFilePanels::readChosenFile(const QString& path) {
+    auto bytes =
+        ZOLFileBytes::read(QFile::encodeName(path).toStdString(), ZOLSaxParser::kMaxDocumentBytes);
+    if (!bytes)
+        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
+    return bytes;
 }
 
 void ZOLFilePanels::setScript(Script s) {

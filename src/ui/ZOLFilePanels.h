@@ -3,6 +3,8 @@
 #include <QStringList>
 
 #include <functional>
+#include <optional>
+#include <string>
 
 class QWidget;
 
@@ -26,6 +28,11 @@ public:
     // The save panel appends the suffix when the user typed a name without it.
     static QString saveFile(QWidget* parent, const QString& title, const QString& suffix,
                             const QString& suggestedName);
+
+    // The bytes of a file chosen in an open panel. A file that cannot be read at all (a folder,
+    // no permission) is as foreign as one of the wrong format: it gets that alert and gives
+    // nothing. Whether the bytes are the right format is left to the file's reader.
+    static std::optional<std::string> readChosenFile(const QString& path);
 
     using Script = std::function<QStringList(const Request&)>;
     static void setScript(Script script);

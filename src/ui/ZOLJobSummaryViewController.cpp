@@ -2,9 +2,6 @@
 #include "ui_ZOLJobSummaryViewController.h"
 
 #include "io/ZOLAtomicFile.h"
-#include "io/ZOLFileBytes.h"
-#include "io/ZOLReadCheck.h"
-#include "io/ZOLSaxParser.h"
 #include "io/ZOLTemplateReader.h"
 #include "model/ZOLCustomItem.h"
 #include "model/ZOLWorkbook.h"
@@ -306,14 +303,10 @@ void ZOLJobSummaryViewController::loadTemplate() {
 }
 
 void ZOLJobSummaryViewController::loadTemplateFile(const QString& path) {
-    auto bytes =
-        ZOLFileBytes::read(QFile::encodeName(path).toStdString(), ZOLSaxParser::kMaxDocumentBytes);
-    // A file that cannot be read at all is as foreign as one of the wrong format; the reader
-    // turns the wrong format away itself and reports broken XML.
-    if (!bytes)
-        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
-    else if (workbook_ &&
-             ZOLTemplateReader::readTemplateData(*bytes, *workbook_) == ZOLReadStatus::Read)
+    // The reader turns the wrong format away itself and reports broken XML.
+    const auto bytes = ZOLFilePanels::readChosenFile(path);
+    if (bytes && workbook_ &&
+        ZOLTemplateReader::readTemplateData(*bytes, *workbook_) == ZOLReadStatus::Read)
         emit edited();
     loadValues();
 }

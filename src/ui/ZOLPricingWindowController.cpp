@@ -1,11 +1,8 @@
 #include "ui/ZOLPricingWindowController.h"
 
 #include "io/ZOLFileSaver.h"
-#include "io/ZOLFileBytes.h"
 #include "io/ZOLFormat.h"
 #include "io/ZOLPriceFileReader.h"
-#include "io/ZOLReadCheck.h"
-#include "io/ZOLSaxParser.h"
 #include "io/ZOLText.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
@@ -145,13 +142,8 @@ void ZOLPricingWindowController::openPricing() {
 }
 
 void ZOLPricingWindowController::openPricingFile(const QString& path) {
-    auto bytes =
-        ZOLFileBytes::read(QFile::encodeName(path).toStdString(), ZOLSaxParser::kMaxDocumentBytes);
-    // A file that cannot be read at all (a folder, no permission) is as foreign as one of the
-    // wrong format; the reader turns the wrong format away itself.
-    if (!bytes)
-        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
-    else if (pricingData_)
+    // The reader turns the wrong format away itself.
+    if (auto bytes = ZOLFilePanels::readChosenFile(path); bytes && pricingData_)
         ZOLPriceFileReader::readPriceData(*bytes, *pricingData_);
     loadData();
 }
