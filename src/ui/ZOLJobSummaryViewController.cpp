@@ -184,7 +184,8 @@ void ZOLJobSummaryViewController::editCustomItem() {
     currentlyEditingItem_ = selectedLine();
     if (!currentlyEditingItem_)
         return;
-    if (currentlyEditingItem_->tiedToWorkbook() && currentlyEditingItem_->calculatorType() == "Wall") {
+    if (currentlyEditingItem_->tiedToWorkbook() &&
+        currentlyEditingItem_->calculatorType() == "Wall") {
         // The package's price is the sum of its parts' prices.
         currentlyEditingItem_.reset();
         ZOLAlerts::run("To adjust pricing of Wall Parts, please use the Edit Pricing tool from "

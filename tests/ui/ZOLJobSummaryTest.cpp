@@ -1,7 +1,6 @@
 // The Job Summary tab through its buttons, its form and its windows: the lines it shows and
 // totals, deleting and editing generated and own lines, the estimates that contribute, the
 // package in full bundles, templates, and the printed page that must show what the tab shows.
-#include "ui/ZOLJobSummaryViewController.h"
 #include "UiTestSupport.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLCustomItem.h"
@@ -13,6 +12,7 @@
 #include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLCustomItemForm.h"
+#include "ui/ZOLJobSummaryViewController.h"
 
 namespace {
 // A wall with priced straight blocks, tilt-up panels and labour: the package, tilt-up and
@@ -119,8 +119,9 @@ private slots:
         select("Quarto Tilt Parts");
         alerts->answer(1);
         screen->deleteCustomItem();
-        QCOMPARE(alerts->last(),
-                 QString("Deleting this item will set all Tilt items to hide. Continue? [Yes|No] "));
+        QCOMPARE(
+            alerts->last(),
+            QString("Deleting this item will set all Tilt items to hide. Continue? [Yes|No] "));
         QVERIFY(workbook->summarizeTilt());
 
         select("Quarto Tilt Parts");
