@@ -556,6 +556,8 @@ bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes,
 }
 
 bool ZOLDocument::saveToFile(const QString& path) {
+    // The job summary's generated lines as the worksheets now price them, as reopening shows them.
+    workbook_->generateCustomItems();
     const QByteArray bytes = dataOfType();
     const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
     if (!writeFile(path, bytes, snapshot, true))

@@ -1,7 +1,7 @@
 #include "ui/ZOLJobSummaryViewController.h"
 #include "ui_ZOLJobSummaryViewController.h"
 
-#include "io/ZOLAtomicFile.h"
+#include "io/ZOLFileSaver.h"
 #include "io/ZOLTemplateReader.h"
 #include "model/ZOLCustomItem.h"
 #include "model/ZOLWorkbook.h"
@@ -289,9 +289,13 @@ void ZOLJobSummaryViewController::saveTemplate() {
 void ZOLJobSummaryViewController::saveTemplateFile(const QString& path) {
     if (!workbook_)
         return;
-    // As with price lists, a failed write is not reported.
-    ZOLAtomicFile::write(QFile::encodeName(path).toStdString(),
-                         workbook_->getCustomItemTemplateXMLString());
+    // As with price lists, a failed write is not reported; a file that would not open again is
+    // not written at all, and that the user is told.
+    std::string error;
+    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(),
+                           workbook_->getCustomItemTemplateXMLString(), ZOLFileKind::Template,
+                           &error) == ZOLFileSaver::Outcome::Unreadable)
+        ZOLAlerts::run("The template could not be saved.", error, {"OK"});
 }
 
 void ZOLJobSummaryViewController::loadTemplate() {
