@@ -53,9 +53,12 @@ ZOLCustomItemForm::ZOLCustomItemForm(std::shared_ptr<ZOLCustomItem> customItem, 
     ui_->generatedNote->setVisible(generated_);
     adjustSize();
 
+    // A cleaned text is still the user's: the line takes it on Save.
     for (QLineEdit* number : {ui_->quantity, ui_->pricePerUnit})
-        connect(number, &QLineEdit::textEdited, this,
-                [number] { ZOLEntryField::cleanTyping(number); });
+        connect(number, &QLineEdit::textEdited, this, [number] {
+            ZOLEntryField::applyKeystrokeRule(number);
+            number->setModified(true);
+        });
     connect(ui_->name, &QLineEdit::textChanged, this, &ZOLCustomItemForm::updateAcceptButton);
     connect(ui_->accept, &QPushButton::clicked, this, &ZOLCustomItemForm::accept);
     connect(ui_->cancel, &QPushButton::clicked, this, &QDialog::reject);
