@@ -1,6 +1,7 @@
 #include "ui/ZOLFilePanels.h"
 
 #include "io/ZOLFileBytes.h"
+#include "io/ZOLFileSaver.h"
 #include "io/ZOLReadCheck.h"
 #include "io/ZOLSaxParser.h"
 #include "platform/ZOLAlerts.h"
@@ -47,6 +48,14 @@ std::optional<std::string> ZOLFilePanels::readChosenFile(const QString& path) {
     if (!bytes)
         ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
     return bytes;
+}
+
+void ZOLFilePanels::writeChosenFile(const QString& path, std::string_view bytes, ZOLFileKind kind,
+                                    const char* refusal) {
+    std::string error;
+    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(), bytes, kind, &error) ==
+        ZOLFileSaver::Outcome::Unreadable)
+        ZOLAlerts::run(refusal, error, {"OK"});
 }
 
 void ZOLFilePanels::setScript(Script s) {

@@ -11,7 +11,6 @@
 #include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLTabToggle.h"
 
-#include <QFile>
 #include <QHeaderView>
 #include <QLocale>
 #include <QTableWidgetItem>
@@ -289,13 +288,8 @@ void ZOLJobSummaryViewController::saveTemplate() {
 void ZOLJobSummaryViewController::saveTemplateFile(const QString& path) {
     if (!workbook_)
         return;
-    // As with price lists, a failed write is not reported; a file that would not open again is
-    // not written at all, and that the user is told.
-    std::string error;
-    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(),
-                           workbook_->getCustomItemTemplateXMLString(), ZOLFileKind::Template,
-                           &error) == ZOLFileSaver::Outcome::Unreadable)
-        ZOLAlerts::run("The template could not be saved.", error, {"OK"});
+    ZOLFilePanels::writeChosenFile(path, workbook_->getCustomItemTemplateXMLString(),
+                                   ZOLFileKind::Template, "The template could not be saved.");
 }
 
 void ZOLJobSummaryViewController::loadTemplate() {

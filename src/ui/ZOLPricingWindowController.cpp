@@ -6,11 +6,9 @@
 #include "io/ZOLText.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
-#include "platform/ZOLAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui_ZOLPricing.h"
 
-#include <QFile>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
@@ -158,13 +156,8 @@ void ZOLPricingWindowController::savePricing() {
 void ZOLPricingWindowController::savePricingFile(const QString& path) {
     if (!pricingData_)
         return;
-    // The price list window does not report a failed write; a file that would not open again
-    // is not written at all, and that the user is told.
-    std::string error;
-    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(),
-                           pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
-                           &error) == ZOLFileSaver::Outcome::Unreadable)
-        ZOLAlerts::run("The price list could not be saved.", error, {"OK"});
+    ZOLFilePanels::writeChosenFile(path, pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
+                                   "The price list could not be saved.");
 }
 
 void ZOLPricingWindowController::useSavedPrices() {
