@@ -178,7 +178,6 @@ Controller* ZOLDocument::addScreen(
 }
 
 // The screens in the order in which they receive their records; the tabs show in this order.
-// The job summary screen comes last.
 void ZOLDocument::installScreens() {
     using Sheet = std::shared_ptr<ZOLWorksheet>;
     auto* wallEntry = addScreen<ZOLWallEntryViewController>(

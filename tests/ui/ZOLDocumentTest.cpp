@@ -92,7 +92,7 @@ private slots:
         QCOMPARE(selector(document), QString("Worksheet 1 showing Worksheet 1"));
         QCOMPARE(document.windowTitle(), QString("Untitled[*]"));
         QVERIFY(!document.isDocumentEdited());
-        // The screens still to come have no tab at all.
+        // Ten tabs, the job summary last.
         QStringList titles;
         for (int i = 0; i < document.tabView()->count(); ++i)
             titles << document.tabView()->tabText(i);
