@@ -26,6 +26,7 @@
 #include "ui/ZOLResultFields.h"
 #include "ui/ZOLSavedPricesBar.h"
 #include "ui/ZOLSettingsPreferences.h"
+#include "ui/ZOLSpreadsheetExport.h"
 #include "ui/ZOLTiltEntryViewController.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
@@ -849,6 +850,7 @@ void ZOLDocument::buildMenus() {
     // Not Ctrl+E: on Linux a text field takes that for "end of line", so it would never reach
     // the menu while the user is typing in a field.
     exportAction->setShortcut(QKeySequence(tr("Ctrl+Shift+E")));
+    ZOLSpreadsheetExport::addMenu(file, this);
     QAction* print = file->addAction(tr("&Print…"), this, &ZOLDocument::printDocument);
     print->setShortcut(QKeySequence::Print);
     if (controller_) {

@@ -31,6 +31,8 @@ QString ZOLFilePanels::filterFor(const QString& suffix) {
         return QObject::tr("Zol price lists (*.zp)");
     if (suffix == "pdf")
         return QObject::tr("PDF documents (*.pdf)");
+    if (suffix == "csv")
+        return QObject::tr("Spreadsheets, comma-separated (*.csv)");
     return QStringLiteral("*.%1").arg(suffix);
 }
 
