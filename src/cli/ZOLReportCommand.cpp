@@ -14,6 +14,7 @@
 #include "cli/ZOLCliFiles.h"
 #include "cli/ZOLCliSupport.h"
 #include "model/ZOLWorkbook.h"
+#include "platform/ZOLInstallation.h"
 #include "report/ZOLPrintData.h"
 #include "report/ZOLPrintSettings.h"
 
@@ -101,15 +102,6 @@ Format formatOf(const std::string& path) {
     if (extension == ".pdf")
         return Format::Pdf;
     return Format::Unknown;
-}
-
-// zolest-render beside this very zolest binary.
-std::string helperPath() {
-    std::error_code error;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (error)
-        return std::string();
-    return (self.parent_path() / "zolest-render").string();
 }
 
 bool writeAll(int fd, const std::string& bytes) {
@@ -200,10 +192,11 @@ void run(const Options& options) {
     }
     std::string helper;
     if (format == Format::Pdf) {
-        helper = helperPath();
-        if (helper.empty() || ::access(helper.c_str(), X_OK) != 0) {
-            std::cerr << "zolest: PDF output needs zolest-render beside zolest; it is built with "
-                         "the desktop application (ZOL_BUILD_UI=ON). Write .html instead.\n";
+        helper = ZOLInstallation::helperPath("zolest-render");
+        if (helper.empty()) {
+            std::cerr << "zolest: PDF output needs zolest-render, installed with the desktop "
+                         "application (beside zolest or in its libexec folder). Write .html "
+                         "instead.\n";
             zolcli::setExitCode(1);
             return;
         }

@@ -21,16 +21,13 @@
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
+#include "platform/ZOLInstallation.h"
 #include "report/ZOLJobSummary.h"
 #include "report/ZOLPrintSettings.h"
 #include "report/ZOLWorkbookSummary.h"
 
 #include <utility>
 #include <vector>
-
-#ifndef ZOL_RESOURCES_DIR
-#define ZOL_RESOURCES_DIR "resources"
-#endif
 
 namespace {
 
@@ -41,7 +38,7 @@ template <typename Record> std::shared_ptr<Record> orFresh(const std::shared_ptr
 }
 
 std::string& resourcesSlot() {
-    static std::string directory = ZOL_RESOURCES_DIR;
+    static std::string directory = ZOLInstallation::resourcesDirectory();
     return directory;
 }
 

@@ -18,6 +18,7 @@
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
+#include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
 #include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
@@ -873,4 +874,5 @@ void ZOLDocument::buildMenus() {
 
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Technical Bulletins"), this, &ZOLDocument::displayBulletins);
+    ZOLHelpMenu::addActions(help, this);
 }
