@@ -25,6 +25,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -156,6 +157,16 @@ std::optional<std::string> renderPdf(const std::string& helper, const std::strin
     ::close(in[1]);
     std::signal(SIGPIPE, previous);
 
+    // On a terminal, a render that takes more than a second says what is going on.
+    if (::isatty(STDERR_FILENO)) {
+        pollfd ready{out[0], POLLIN, 0};
+        int polled = 0;
+        while ((polled = ::poll(&ready, 1, 1000)) < 0 && errno == EINTR) {
+        }
+        if (polled == 0)
+            std::cerr << "zolest: laying out and printing "
+                      << ZOLPrintData::getPageCountWithHTML(html) << " pages to PDF...\n";
+    }
     std::string pdf;
     char buffer[65536];
     for (;;) {

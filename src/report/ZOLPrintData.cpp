@@ -61,6 +61,15 @@ std::string ZOLPrintData::backgroundImagePath() {
     return directory + "report/PrintingBackground.svg";
 }
 
+int32_t ZOLPrintData::getPageCountWithHTML(const std::string& html) {
+    static const std::string kPageStart = "<div class=\"page\">";
+    int32_t count = 0;
+    for (auto at = html.find(kPageStart); at != std::string::npos;
+         at = html.find(kPageStart, at + kPageStart.size()))
+        count = ZOLNumeric::wrapAdd(count, 1);
+    return count;
+}
+
 std::string ZOLPrintData::getHeaderHTML() {
     return ZOLFormat::format(
         "<!DOCTYPE HTML PUBLIC \"-//W3C//DTD HTML 4.0 Transitional//EN\">\n"

@@ -14,15 +14,16 @@
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
-#include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
 #include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLRecoveryStore.h"
+#include "ui/ZOLReportProgress.h"
 #include "ui/ZOLReportRenderer.h"
 #include "ui/ZOLResultFields.h"
 #include "ui/ZOLSavedPricesBar.h"
@@ -792,9 +793,11 @@ void ZOLDocument::printDocument() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     printing_ = true;
-    renderer()->print(*report, printer_.get(), [this](bool ok, const QString& error) {
+    auto* progress = new ZOLReportProgress(this, renderer(), *report);
+    renderer()->print(*report, printer_.get(), [this, progress](bool ok, const QString& error) {
         printing_ = false;
-        if (!ok)
+        progress->deleteLater();
+        if (!ok && !renderer()->wasCancelled())
             ZOLAlerts::run("The report could not be printed.", utf8(error), {"OK"});
     });
 }
@@ -809,9 +812,13 @@ void ZOLDocument::exportPDF() {
         return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QString error;
-    const bool written = renderer()->writePdf(*report, path, &error);
+    bool written = false;
+    {
+        ZOLReportProgress progress(this, renderer(), *report);
+        written = renderer()->writePdf(*report, path, &error);
+    }
     QApplication::restoreOverrideCursor();
-    if (!written)
+    if (!written && !renderer()->wasCancelled())
         ZOLAlerts::run(
             utf8(tr("The PDF “%1” could not be written.").arg(QFileInfo(path).fileName())),
             utf8(error), {"OK"});
