@@ -54,10 +54,9 @@ set(CPACK_PACKAGE_NAME zol-estimator)
 set(CPACK_PACKAGE_VENDOR "Zol Blocks")
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Estimating tool for Zol Blocks insulated concrete form walls")
-set(CPACK_PACKAGE_DESCRIPTION
-    "Zol Estimator takes off the blocks, accessories, rebar, concrete and labour of insulated\n"
-    "concrete form walls, prices the job and prints the estimate. zolest does the same from\n"
-    "the command line.")
+set(CPACK_PACKAGE_DESCRIPTION "Zol Estimator takes off the blocks, accessories, rebar, \
+concrete and labour of insulated concrete form walls,\nprices the job and prints the estimate; \
+zolest does the same from the command line.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

@@ -18,8 +18,8 @@ ZOLReportProgress::ZOLReportProgress(QWidget* window, ZOLReportRenderer* rendere
     const int pages = ZOLPrintData::getPageCountWithHTML(reportHtml);
     if (pages <= kFewPages)
         return;
-    dialog_ = new QProgressDialog(tr("Laying out %n page(s)…", nullptr, pages), tr("Cancel"), 0,
-                                  100, window);
+    dialog_ =
+        new QProgressDialog(tr("Laying out %1 pages…").arg(pages), tr("Cancel"), 0, 100, window);
     dialog_->setWindowTitle(tr("Printing"));
     dialog_->setWindowModality(Qt::WindowModal);
     dialog_->setAutoReset(false);
@@ -39,7 +39,7 @@ ZOLReportProgress::ZOLReportProgress(QWidget* window, ZOLReportRenderer* rendere
             dialog_->setValue(percent * 9 / 10);
             return;
         }
-        dialog_->setLabelText(tr("Printing %n page(s)…", nullptr, pages));
+        dialog_->setLabelText(tr("Printing %1 pages…").arg(pages));
         dialog_->setRange(0, 0); // busy until the PDF is there
     });
 }

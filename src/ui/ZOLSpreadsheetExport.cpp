@@ -34,7 +34,7 @@ QString tr(const char* text) {
 } // namespace
 
 QMenu* ZOLSpreadsheetExport::addMenu(QMenu* fileMenu, ZOLDocument* document) {
-    QMenu* menu = fileMenu->addMenu(tr("Export &Spreadsheet"));
+    QMenu* menu = fileMenu->addMenu(tr("E&xport Spreadsheet"));
     for (const Command& command : kCommands) {
         const ZOLCsvExport::Kind kind = command.kind;
         menu->addAction(tr(command.menuText), document,
