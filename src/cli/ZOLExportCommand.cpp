@@ -47,12 +47,7 @@ zolcli::Registrar reg("export", [](CLI::App& root) {
     cmd->add_flag("--job-summary", options->jobSummary,
                   "The job summary's visible lines, totals last");
     cmd->add_option("-o,--output", options->output, "Where to write it (OUT.csv)");
-    cmd->add_option("--prices", options->prices,
-                    "Price the workbook with this price file (.zp), as the price list window "
-                    "loads it");
-    cmd->add_option("--template", options->jobTemplate,
-                    "Start the job summary from this template (.zci), as the job summary screen "
-                    "loads it");
+    zolcli::addJobFileOptions(*cmd, options->prices, options->jobTemplate);
     cmd->callback([options] {
         if (options->orderList + options->workbookSummary + options->jobSummary != 1) {
             std::cerr << "zolest: export needs exactly one of --order-list, --workbook-summary, "

@@ -273,12 +273,7 @@ zolcli::Registrar reg("report", [](CLI::App& root) {
         cmd->add_option("--worksheet", options->worksheetIndex,
                         "Only the worksheet at this index (0 is the first); without it every "
                         "worksheet prints");
-    cmd->add_option("--prices", options->prices,
-                    "Price the report with this price file (.zp), loaded as the price list "
-                    "window loads it; the job summary is worked out again with it");
-    cmd->add_option("--template", options->jobTemplate,
-                    "Start the job summary from this template (.zci), as the job summary "
-                    "screen loads it");
+    zolcli::addJobFileOptions(*cmd, options->prices, options->jobTemplate);
     cmd->callback([options, worksheet] {
         options->oneWorksheet = worksheet->count() > 0;
         run(*options);
