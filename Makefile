@@ -6,7 +6,7 @@ FUZZ      ?= build-fuzz
 WERROR    := $(if $(CI),ON,OFF)
 CMAKE_GEN := -G Ninja
 
-.PHONY: all deps build run test test-core test-asan bench fuzz format clean
+.PHONY: all deps build run test test-core test-asan bench fuzz format clean install package
 
 all: build
 
@@ -45,6 +45,14 @@ fuzz: deps $(FUZZ)/build.ninja
 	cmake --build $(FUZZ) -j $(JOBS) --target fuzzers
 
 test: test-core test-asan fuzz
+
+# `make install PREFIX=/opt/zol` (DESTDIR works too); `make package` builds the Debian package.
+PREFIX    ?= /usr/local
+install: build
+	cmake --install $(BUILD) --prefix $(PREFIX)
+
+package: build
+	cd $(BUILD) && cpack -G DEB
 
 bench: build
 	@for b in $(BUILD)/bench/*; do echo "== $$b"; $$b; done

@@ -124,6 +124,15 @@ void addDoubleOption(CLI::App& cmd, const std::string& field, std::function<void
         ->type_name("NUMBER");
 }
 
+void addJobFileOptions(CLI::App& cmd, std::string& prices, std::string& jobTemplate) {
+    cmd.add_option("--prices", prices,
+                   "Price the job with this price file (.zp), loaded as the price list window "
+                   "loads it; the job summary is worked out again with it");
+    cmd.add_option("--template", jobTemplate,
+                   "Start the job summary from this template (.zci), as the job summary screen "
+                   "loads it");
+}
+
 void addBoolOption(CLI::App& cmd, const std::string& field, std::function<void(bool)> set,
                    const std::string& help) {
     cmd.add_option_function<std::string>(

@@ -33,6 +33,10 @@ void addDoubleOption(CLI::App& cmd, const std::string& field, std::function<void
 void addBoolOption(CLI::App& cmd, const std::string& field, std::function<void(bool)> set,
                    const std::string& help = "");
 
+// --prices FILE.zp and --template FILE.zci of the commands that work on a job's prices and
+// job-summary lines (loaded with loadJobFiles).
+void addJobFileOptions(CLI::App& cmd, std::string& prices, std::string& jobTemplate);
+
 // A double as JSON: shortest round-trip form, or null when it is not finite.
 nlohmann::json number(double value);
 void printJson(const nlohmann::json& value);

@@ -14,6 +14,7 @@
 #include "cli/ZOLCliFiles.h"
 #include "cli/ZOLCliSupport.h"
 #include "model/ZOLWorkbook.h"
+#include "platform/ZOLInstallation.h"
 #include "report/ZOLPrintData.h"
 #include "report/ZOLPrintSettings.h"
 
@@ -24,6 +25,7 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
+#include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -103,15 +105,6 @@ Format formatOf(const std::string& path) {
     return Format::Unknown;
 }
 
-// zolest-render beside this very zolest binary.
-std::string helperPath() {
-    std::error_code error;
-    const auto self = std::filesystem::read_symlink("/proc/self/exe", error);
-    if (error)
-        return std::string();
-    return (self.parent_path() / "zolest-render").string();
-}
-
 bool writeAll(int fd, const std::string& bytes) {
     std::size_t done = 0;
     while (done < bytes.size()) {
@@ -164,6 +157,16 @@ std::optional<std::string> renderPdf(const std::string& helper, const std::strin
     ::close(in[1]);
     std::signal(SIGPIPE, previous);
 
+    // On a terminal, a render that takes more than a second says what is going on.
+    if (::isatty(STDERR_FILENO)) {
+        pollfd ready{out[0], POLLIN, 0};
+        int polled = 0;
+        while ((polled = ::poll(&ready, 1, 1000)) < 0 && errno == EINTR) {
+        }
+        if (polled == 0)
+            std::cerr << "zolest: laying out and printing "
+                      << ZOLPrintData::getPageCountWithHTML(html) << " pages to PDF...\n";
+    }
     std::string pdf;
     char buffer[65536];
     for (;;) {
@@ -200,10 +203,11 @@ void run(const Options& options) {
     }
     std::string helper;
     if (format == Format::Pdf) {
-        helper = helperPath();
-        if (helper.empty() || ::access(helper.c_str(), X_OK) != 0) {
-            std::cerr << "zolest: PDF output needs zolest-render beside zolest; it is built with "
-                         "the desktop application (ZOL_BUILD_UI=ON). Write .html instead.\n";
+        helper = ZOLInstallation::helperPath("zolest-render");
+        if (helper.empty()) {
+            std::cerr << "zolest: PDF output needs zolest-render, installed with the desktop "
+                         "application (beside zolest or in its libexec folder). Write .html "
+                         "instead.\n";
             zolcli::setExitCode(1);
             return;
         }
@@ -269,12 +273,7 @@ zolcli::Registrar reg("report", [](CLI::App& root) {
         cmd->add_option("--worksheet", options->worksheetIndex,
                         "Only the worksheet at this index (0 is the first); without it every "
                         "worksheet prints");
-    cmd->add_option("--prices", options->prices,
-                    "Price the report with this price file (.zp), loaded as the price list "
-                    "window loads it; the job summary is worked out again with it");
-    cmd->add_option("--template", options->jobTemplate,
-                    "Start the job summary from this template (.zci), as the job summary "
-                    "screen loads it");
+    zolcli::addJobFileOptions(*cmd, options->prices, options->jobTemplate);
     cmd->callback([options, worksheet] {
         options->oneWorksheet = worksheet->count() > 0;
         run(*options);

@@ -106,12 +106,7 @@ zolcli::Registrar reg("takeoff", [](CLI::App& root) {
         "takeoff", "Print the take-off of every worksheet of a workbook and its job summary");
     auto options = std::make_shared<Options>();
     cmd->add_option("FILE", options->workbook, "the workbook file (.zol)")->required();
-    cmd->add_option("--prices", options->prices,
-                    "price the job summary with this price file (.zp), loaded into the "
-                    "workbook's price list as the price list window loads it");
-    cmd->add_option("--template", options->jobTemplate,
-                    "start the job summary from this template (.zci), as the job summary "
-                    "screen loads it");
+    zolcli::addJobFileOptions(*cmd, options->prices, options->jobTemplate);
     cmd->add_flag("--json", options->json, "print one JSON object instead of text");
     cmd->callback([options] {
         auto workbook = zolcli::openWorkbook(options->workbook);

@@ -3,6 +3,7 @@
 
 #include "platform/ZOLAlerts.h"
 
+#include <cstdlib>
 #include <iostream>
 #include <string>
 
@@ -41,6 +42,13 @@ int main(int argc, char** argv) {
     CLI::App app{"zolest: take-offs, reports and files of Zol Estimator workbooks", "zolest"};
     app.require_subcommand(1);
     app.footer("Run 'zolest COMMAND --help' for the options of a command.");
+    app.add_flag_callback(
+        "--version",
+        [] {
+            std::cout << "zolest " ZOL_VERSION "\n";
+            std::exit(0);
+        },
+        "Print the version and exit");
     zolcli::setupAll(app);
     try {
         app.parse(argc, argv);

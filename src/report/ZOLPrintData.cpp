@@ -21,14 +21,13 @@
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
+#include "platform/ZOLInstallation.h"
+#include "report/ZOLJobSummary.h"
 #include "report/ZOLPrintSettings.h"
+#include "report/ZOLWorkbookSummary.h"
 
 #include <utility>
 #include <vector>
-
-#ifndef ZOL_RESOURCES_DIR
-#define ZOL_RESOURCES_DIR "resources"
-#endif
 
 namespace {
 
@@ -39,7 +38,7 @@ template <typename Record> std::shared_ptr<Record> orFresh(const std::shared_ptr
 }
 
 std::string& resourcesSlot() {
-    static std::string directory = ZOL_RESOURCES_DIR;
+    static std::string directory = ZOLInstallation::resourcesDirectory();
     return directory;
 }
 
@@ -60,6 +59,15 @@ std::string ZOLPrintData::backgroundImagePath() {
     if (!directory.empty() && directory.back() != '/')
         directory += '/';
     return directory + "report/PrintingBackground.svg";
+}
+
+int32_t ZOLPrintData::getPageCountWithHTML(const std::string& html) {
+    static const std::string kPageStart = "<div class=\"page\">";
+    int32_t count = 0;
+    for (auto at = html.find(kPageStart); at != std::string::npos;
+         at = html.find(kPageStart, at + kPageStart.size()))
+        count = ZOLNumeric::wrapAdd(count, 1);
+    return count;
 }
 
 std::string ZOLPrintData::getHeaderHTML() {
@@ -573,84 +581,26 @@ std::string ZOLPrintData::getWallHTML(const std::shared_ptr<ZOLWall>& wall,
 
 std::string ZOLPrintData::getSummaryHTML(const std::shared_ptr<ZOLWorkbook>& workbook) {
     const auto book = orFresh(workbook);
-    const double gross = book->getTotalGrossSquareFeet();
-    auto perSquareFoot = [gross](double cost) { return gross > 0 ? cost / gross : 0.0; };
-    std::vector<std::shared_ptr<ZOLWall>> walls;
-    for (const auto& worksheet : book->worksheets())
-        if (worksheet)
-            walls.push_back(orFresh(worksheet->wallData()));
-    const auto& pricing = book->pricingData();
-    auto price = [&pricing](int32_t type, int32_t size) {
-        return pricing ? pricing->getPriceForItemType(type, size) : 0.0;
-    };
+    const ZOLWorkbookSummary::Summary summary = ZOLWorkbookSummary::summarize(*book);
 
     std::string html =
         "<div class=\"page\">\n<div class=\"content wall-summary\">\n<h1>Workbook Summary</h1>\n";
     html += projectInfoFor(*book, nullptr);
     html += "\n<table>\n<tr>\n<th></th>\n<th>Quantity</th>\n<th>Unit Price</th>\n<th>Total "
             "Cost</th>\n<th>Sq Ft Cost</th>\n<th>Approx. Weight</th>\n</tr>\n";
-
-    int32_t totalQuantity = 0;
-    double totalCost = 0.0;
-    double totalWeight = 0.0;
-    int32_t rows = 0;
-    auto appendRow = [&](const std::string& name, int32_t quantity, double unitPrice,
-                         double weight) {
-        const double cost = quantity * unitPrice;
+    for (const auto& row : summary.rows)
         html += ZOLFormat::format("<tr>\n<td>%@</td>\n<td>%d</td>\n<td>$%.2f</td>\n<td>$%.2f</"
                                   "td>\n<td>$%.2f</td>\n<td>%.2f lbs</td>\n</tr>\n",
-                                  name, quantity, unitPrice, cost, perSquareFoot(cost), weight);
-        totalQuantity = ZOLNumeric::wrapAdd(totalQuantity, quantity);
-        totalCost += cost;
-        totalWeight += weight;
-        ++rows;
-    };
-
-    // Blocks, size by size (only the sizes some wall uses), each count over the walls of that
-    // size.
-    for (int32_t size : {4, 6, 8, 10, 12}) {
-        bool used = false;
-        for (const auto& wall : walls)
-            used = used || wall->blockSize() == size;
-        if (!used)
-            continue;
-        for (int32_t type = 0; type <= 11; ++type) {
-            if (!ZOLWallData::getValidSizeWithBlockType(type, size))
-                continue;
-            int32_t quantity = 0;
-            for (const auto& wall : walls)
-                if (wall->blockSize() == size)
-                    quantity = ZOLNumeric::wrapAdd(quantity, wall->getPartCountWithPartType(type));
-            if (quantity == 0)
-                continue;
-            appendRow(
-                ZOLFormat::format("%d\" %@", size, ZOLWallData::getPartNameWithBlockType(type)),
-                quantity, price(type, size),
-                ZOLWallCalculator::calculateBlockWeightWithBlockSize(size, type, quantity));
-        }
-    }
-
-    // Accessories fit every size: one row each over all walls, priced at the 4" entry. Clips
-    // are counted, priced and weighed in bundles.
-    if (rows > 0) {
-        for (int32_t type = 12; type <= 16; ++type) {
-            int32_t quantity = 0;
-            for (const auto& wall : walls)
-                quantity = ZOLNumeric::wrapAdd(quantity,
-                                               type == 13 ? wall->getTotalBundlesWithPartType(13)
-                                                          : wall->getPartCountWithPartType(type));
-            if (quantity == 0)
-                continue;
-            appendRow(ZOLFormat::format("%@", ZOLWallData::getPartNameWithBlockType(type)),
-                      quantity, price(type, 4),
-                      ZOLWallCalculator::calculateBlockWeightWithBlockSize(4, type, quantity));
-        }
+                                  row.name, row.quantity, row.unitPrice, row.totalCost,
+                                  row.squareFootCost, row.weight);
+    if (!summary.rows.empty()) {
         // The job-site sign ships free with every order and adds nothing to the totals.
         html += ZOLFormat::format(
-            "<tr>\n<td>Zol Blocks Job Site Sign</td>\n<td>1</td>\n<td>$0.00</td>\n<td>$0.00</"
+            "<tr>\n<td>%@</td>\n<td>1</td>\n<td>$0.00</td>\n<td>$0.00</"
             "td>\n<td>$0.00</td>\n<td>0.00 lbs</td>\n</tr>\n<tr></tr>\n<tr><td>Totals</td>\n<td>"
             "%d</td>\n<td> </td>\n<td>$%.2f</td>\n<td>$%.2f</td>\n<td>%.2f lbs</td>\n</tr>\n",
-            totalQuantity, totalCost, perSquareFoot(totalCost), totalWeight);
+            ZOLWorkbookSummary::kSignName, summary.totalQuantity, summary.totalCost,
+            summary.squareFootCost, summary.totalWeight);
     }
     html += "</table>\n";
     if (book->roundToFullBundles())
@@ -661,30 +611,19 @@ std::string ZOLPrintData::getSummaryHTML(const std::shared_ptr<ZOLWorkbook>& wor
 
 std::string ZOLPrintData::getJobSummaryHTML(const std::shared_ptr<ZOLWorkbook>& workbook) {
     const auto book = orFresh(workbook);
-    // The generated lines are brought up to date with the worksheets first.
-    book->generateCustomItems();
+    const ZOLJobSummary::Summary summary = ZOLJobSummary::summarize(*book);
     std::string html =
         "<div class=\"page\">\n<div class=\"content job-summary\">\n<h1>Job Summary</h1>\n";
     html += projectInfoFor(*book, nullptr);
     html += "\n<table>\n<tr>\n<th></th>\n<th>Quantity</th>\n<th>Unit</th>\n<th>Unit "
             "Price</th>\n<th>Total Cost</th>\n";
-    // The quantity total keeps whole units only, dropping the fraction at every line.
-    int32_t totalQuantity = 0;
-    double totalCost = 0.0;
-    for (const auto& item : book->customItems()) {
-        if (!item || !item->visible())
-            continue;
-        const double lineCost = item->quantity() * item->cost();
-        html +=
-            ZOLFormat::format("<tr>\n<td>%@</td>\n<td>%.2f</td>\n<td>%@</td>\n<td>$%.2f</"
-                              "td>\n<td>$%.2f</td>\n</tr>\n",
-                              item->name(), item->quantity(), item->unit(), item->cost(), lineCost);
-        totalQuantity = ZOLNumeric::toInt(totalQuantity + item->quantity());
-        totalCost += lineCost;
-    }
+    for (const auto& line : summary.lines)
+        html += ZOLFormat::format("<tr>\n<td>%@</td>\n<td>%.2f</td>\n<td>%@</td>\n<td>$%.2f</"
+                                  "td>\n<td>$%.2f</td>\n</tr>\n",
+                                  line.name, line.quantity, line.unit, line.unitPrice, line.total);
     html += ZOLFormat::format("<tr></tr>\n<tr><td>Totals</td>\n<td>%d</td>\n<td> </td>\n<td> "
                               "</td>\n<td>$%.2f</td>\n</tr>\n</table>\n</div>\n</div>\n",
-                              totalQuantity, totalCost);
+                              summary.totalQuantity, summary.totalCost);
     return html;
 }
 

@@ -33,6 +33,9 @@ public:
     // The full-page background artwork the header's style sheet names.
     static std::string backgroundImagePath();
 
+    // How many pages a report holds: each prints on one sheet at the least.
+    static int32_t getPageCountWithHTML(const std::string& html);
+
     static std::string getHeaderHTML();
     static std::string getFooterHTML();
     // The block under every page title. worksheet may be null (the workbook-wide pages).

@@ -14,6 +14,7 @@
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLJobSummaryViewController.h"
 #include "ui/ZOLManHoursEntryViewController.h"
@@ -23,10 +24,12 @@
 #include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLRecoveryStore.h"
+#include "ui/ZOLReportProgress.h"
 #include "ui/ZOLReportRenderer.h"
 #include "ui/ZOLResultFields.h"
 #include "ui/ZOLSavedPricesBar.h"
 #include "ui/ZOLSettingsPreferences.h"
+#include "ui/ZOLSpreadsheetExport.h"
 #include "ui/ZOLTiltEntryViewController.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
@@ -799,9 +802,11 @@ void ZOLDocument::printDocument() {
     if (dialog.exec() != QDialog::Accepted)
         return;
     printing_ = true;
-    renderer()->print(*report, printer_.get(), [this](bool ok, const QString& error) {
+    auto* progress = new ZOLReportProgress(this, renderer(), *report);
+    renderer()->print(*report, printer_.get(), [this, progress](bool ok, const QString& error) {
         printing_ = false;
-        if (!ok)
+        progress->deleteLater();
+        if (!ok && !renderer()->wasCancelled())
             ZOLAlerts::run("The report could not be printed.", utf8(error), {"OK"});
     });
 }
@@ -816,9 +821,13 @@ void ZOLDocument::exportPDF() {
         return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     QString error;
-    const bool written = renderer()->writePdf(*report, path, &error);
+    bool written = false;
+    {
+        ZOLReportProgress progress(this, renderer(), *report);
+        written = renderer()->writePdf(*report, path, &error);
+    }
     QApplication::restoreOverrideCursor();
-    if (!written)
+    if (!written && !renderer()->wasCancelled())
         ZOLAlerts::run(
             utf8(tr("The PDF “%1” could not be written.").arg(QFileInfo(path).fileName())),
             utf8(error), {"OK"});
@@ -858,6 +867,7 @@ void ZOLDocument::buildMenus() {
     // Not Ctrl+E: on Linux a text field takes that for "end of line", so it would never reach
     // the menu while the user is typing in a field.
     exportAction->setShortcut(QKeySequence(tr("Ctrl+Shift+E")));
+    ZOLSpreadsheetExport::addMenu(file, this);
     QAction* print = file->addAction(tr("&Print…"), this, &ZOLDocument::printDocument);
     print->setShortcut(QKeySequence::Print);
     if (controller_) {
@@ -880,4 +890,5 @@ void ZOLDocument::buildMenus() {
 
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Technical Bulletins"), this, &ZOLDocument::displayBulletins);
+    ZOLHelpMenu::addActions(help, this);
 }

@@ -39,6 +39,8 @@ QString ZOLFilePanels::filterFor(const QString& suffix) {
         return QObject::tr("Zol job summary templates (*.zci)");
     if (suffix == "pdf")
         return QObject::tr("PDF documents (*.pdf)");
+    if (suffix == "csv")
+        return QObject::tr("Spreadsheets, comma-separated (*.csv)");
     return QStringLiteral("*.%1").arg(suffix);
 }
 

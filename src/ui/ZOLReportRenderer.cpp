@@ -1,5 +1,7 @@
 #include "ui/ZOLReportRenderer.h"
 
+#include "ui/ZOLPrintJob.h"
+
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
@@ -13,6 +15,7 @@
 #include <QPageLayout>
 #include <QPageSize>
 #include <QPointer>
+#include <QPrinter>
 #include <QSaveFile>
 #include <QWebEnginePage>
 #include <QWebEngineProfile>
@@ -21,7 +24,6 @@
 #include <QWebEngineUrlRequestJob>
 #include <QWebEngineUrlScheme>
 #include <QWebEngineUrlSchemeHandler>
-#include <QWebEngineView>
 
 #include <unistd.h>
 
@@ -182,9 +184,11 @@ struct ZOLReportRenderer::Private {
     QWebEngineProfile* profile = nullptr;
     ReportServer* server = nullptr;
     ReportPage* page = nullptr;
-    QWebEngineView* view = nullptr;
     std::function<void(bool)> pendingLoad;
-    std::function<void(bool, const QString&)> pendingPrint;
+    // The report under way; a cancelled or replaced one drops what its engine still delivers.
+    std::function<void(const QByteArray&, const QString&)> pendingPdf;
+    quint64 job = 0;
+    bool cancelled = false;
 };
 
 void ZOLReportRenderer::prepareApplication() {
@@ -267,8 +271,7 @@ ZOLReportRenderer::ZOLReportRenderer(const QString& resourcesDirectory, QObject*
 }
 
 ZOLReportRenderer::~ZOLReportRenderer() {
-    // The view and the page must go before the profile they use.
-    delete d->view;
+    // The page must go before the profile it uses.
     delete d->page;
 }
 
@@ -299,53 +302,76 @@ void ZOLReportRenderer::load(const std::string& reportHtml, std::function<void(b
 
 void ZOLReportRenderer::renderPdf(
     const std::string& reportHtml,
-    std::function<void(const QByteArray& pdf, const QString& error)> done) {
+    std::function<void(const QByteArray& pdf, const QString& error)> done,
+    const QPageRanges& pages) {
+    // A new report replaces one still under way, whose caller hears that it failed.
+    if (auto previous = std::move(d->pendingPdf))
+        previous(QByteArray(), QStringLiteral("The report was replaced by another."));
+    const quint64 job = ++d->job;
+    d->cancelled = false;
+    d->pendingPdf = std::move(done);
+    auto finish = [this, job](const QByteArray& pdf, const QString& error) {
+        if (job != d->job || !d->pendingPdf)
+            return;
+        auto done = std::move(d->pendingPdf);
+        d->pendingPdf = nullptr;
+        done(pdf, error);
+    };
     QPointer<ZOLReportRenderer> self(this);
-    load(reportHtml, [self, done = std::move(done)](bool ok) {
-        if (!self)
+    load(reportHtml, [self, job, pages, finish](bool ok) {
+        if (!self || job != self->d->job)
             return;
         if (!ok) {
-            done(QByteArray(), QStringLiteral("The report could not be laid out."));
+            finish(QByteArray(), QStringLiteral("The report could not be laid out."));
             return;
         }
         self->d->page->printToPdf(
-            [done](const QByteArray& pdf) {
-                done(pdf, pdf.isEmpty() ? QStringLiteral("The report could not be printed.")
-                                        : QString());
+            [self, finish](const QByteArray& pdf) {
+                if (self)
+                    finish(pdf, pdf.isEmpty() ? QStringLiteral("The report could not be printed.")
+                                              : QString());
             },
-            letterWithoutMargins());
+            letterWithoutMargins(), pages);
     });
 }
 
 void ZOLReportRenderer::print(const std::string& reportHtml, QPrinter* printer,
                               std::function<void(bool ok, const QString& error)> done) {
-    // Printing goes through a view; it is never shown.
-    if (!d->view) {
-        d->view = new QWebEngineView();
-        d->view->setAttribute(Qt::WA_DontShowOnScreen);
-        d->view->setPage(d->page);
-        connect(d->view, &QWebEngineView::printFinished, this, [this](bool ok) {
-            if (d->pendingPrint) {
-                auto finished = std::move(d->pendingPrint);
-                d->pendingPrint = nullptr;
-                finished(ok, ok ? QString() : QStringLiteral("The report could not be printed."));
+    const QPageRanges pages =
+        printer->printRange() == QPrinter::PageRange ? printer->pageRanges() : QPageRanges();
+    const QString title = printer->docName();
+    renderPdf(
+        reportHtml,
+        [printer, title, done = std::move(done)](const QByteArray& pdf, const QString& error) {
+            if (pdf.isEmpty()) {
+                done(false, error);
+                return;
             }
-        });
-    }
-    d->pendingPrint = std::move(done);
-    QPointer<ZOLReportRenderer> self(this);
-    load(reportHtml, [self, printer](bool ok) {
-        if (!self)
-            return;
-        if (!ok) {
-            if (auto finished = std::move(self->d->pendingPrint)) {
-                self->d->pendingPrint = nullptr;
-                finished(false, QStringLiteral("The report could not be laid out."));
-            }
-            return;
-        }
-        self->d->view->print(printer);
-    });
+            QString why;
+            const bool printed = ZOLPrintJob::submit(pdf, *printer, title, &why);
+            done(printed, why);
+        },
+        pages);
+}
+
+void ZOLReportRenderer::cancel() {
+    if (!d->pendingPdf)
+        return;
+    ++d->job; // whatever the engine still delivers for it is dropped
+    d->pendingLoad = nullptr;
+    d->cancelled = true;
+    d->page->triggerAction(QWebEnginePage::Stop);
+    auto done = std::move(d->pendingPdf);
+    d->pendingPdf = nullptr;
+    done(QByteArray(), QStringLiteral("Cancelled."));
+}
+
+bool ZOLReportRenderer::wasCancelled() const {
+    return d->cancelled;
+}
+
+bool ZOLReportRenderer::isBusy() const {
+    return static_cast<bool>(d->pendingPdf);
 }
 
 QByteArray ZOLReportRenderer::renderPdfAndWait(const std::string& reportHtml, QString* error) {

@@ -1,6 +1,7 @@
 #pragma once
 #include <QByteArray>
 #include <QObject>
+#include <QPageRanges>
 #include <QString>
 #include <QStringList>
 
@@ -11,7 +12,6 @@
 class QPrinter;
 class QWebEnginePage;
 class QWebEngineProfile;
-class QWebEngineView;
 
 // Turns the report text into printed sheets: loads it into a page that is never shown, with the
 // program's resources folder as its base address, and writes a PDF or prints through a
@@ -38,13 +38,22 @@ public:
     // does not drift across sheets (a page div is 27.9 cm, a Letter sheet 27.94 cm).
     static QByteArray printableHtml(const std::string& reportHtml);
 
-    // Loads the report and makes a PDF of US Letter sheets with no margins. The callback gets
-    // the PDF, or an empty array and a message when loading or printing failed.
+    // Loads the report and makes a PDF of US Letter sheets with no margins, of the given pages
+    // only (numbered from 1) when there are any. The callback gets the PDF, or an empty array and
+    // a message when loading or printing failed or the user cancelled.
     void renderPdf(const std::string& reportHtml,
-                   std::function<void(const QByteArray& pdf, const QString& error)> done);
-    // Loads the report and prints it on the printer as the user set it up (paper, margins).
+                   std::function<void(const QByteArray& pdf, const QString& error)> done,
+                   const QPageRanges& pages = {});
+    // Prints the very PDF that Export PDF writes on the printer the user chose, with its copies
+    // and page range; Print to File writes that PDF.
     void print(const std::string& reportHtml, QPrinter* printer,
                std::function<void(bool ok, const QString& error)> done);
+
+    // Stops the report under way: its callback is called at once as failed, and wasCancelled()
+    // tells why until the next report starts.
+    void cancel();
+    bool wasCancelled() const;
+    bool isBusy() const;
 
     // The same, waiting in a local event loop. writePdf replaces the file atomically: a failed
     // render leaves whatever was at the path.

@@ -1,4 +1,6 @@
 #pragma once
+#include "report/ZOLWorkbookSummary.h"
+
 #include <QWidget>
 
 #include <cstdint>
@@ -18,25 +20,12 @@ class ZOLWorkbookSummaryViewController : public QWidget {
     Q_OBJECT
 
 public:
-    // One line of the summary: a block shape of one size, or an accessory.
-    struct Row {
-        std::string name;
-        int32_t quantity = 0;
-        double unitPrice = 0.0;
-        double totalCost = 0.0;
-        double squareFootCost = 0.0;
-        double weight = 0.0;
-    };
-    struct Summary {
-        std::vector<Row> rows; // blocks by size, then accessories; empty when no block is used
-        int32_t totalQuantity = 0;
-        double totalCost = 0.0;
-        double squareFootCost = 0.0;
-        double totalWeight = 0.0;
-        double grossSquareFeet = 0.0;
-    };
+    using Row = ZOLWorkbookSummary::Row;
+    using Summary = ZOLWorkbookSummary::Summary;
     // The summary of a workbook, line for line as the printed page computes it.
-    static Summary summarize(const ZOLWorkbook& workbook);
+    static Summary summarize(const ZOLWorkbook& workbook) {
+        return ZOLWorkbookSummary::summarize(workbook);
+    }
 
     explicit ZOLWorkbookSummaryViewController(QWidget* parent = nullptr);
     ~ZOLWorkbookSummaryViewController() override;
@@ -45,7 +34,7 @@ public:
     const std::shared_ptr<ZOLWorkbook>& workbook() const { return workbook_; }
     void loadValues();
 
-    static constexpr const char* kSignName = "Zol Blocks Job Site Sign";
+    static constexpr const char* kSignName = ZOLWorkbookSummary::kSignName;
 
 signals:
     void editPricingRequested();

@@ -1,7 +1,12 @@
 // Export PDF from the document window: the print settings come first, a cancelled window
-// exports nothing, and an accepted one writes the report's pages to the chosen file.
+// exports nothing, and an accepted one writes the report's pages to the chosen file. Export
+// Spreadsheet writes the chosen list.
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
 #include "platform/ZOLPreferences.h"
 #include "ui/ZOLDocument.h"
+#include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLReportRenderer.h"
 
 #include "UiTestSupport.h"
@@ -45,6 +50,25 @@ private slots:
         QCOMPARE(pageCount, QString("Page Count: 2"));
         QCOMPARE(panels.requests, QStringList{"Export PDF *.pdf"});
         QCOMPARE(sheetCount(path), 2);
+    }
+
+    void exportSpreadsheetWritesTheChosenList() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("order.csv");
+        ScriptedPanels panels({path});
+        ZOLDocument document;
+        document.workbook()->worksheets()[0]->wallData()->setWallLength(40);
+        QAction* orderList = nullptr;
+        for (QAction* action : document.findChildren<QAction*>())
+            if (action->text() == "&Order List…")
+                orderList = action;
+        QVERIFY(orderList);
+        orderList->trigger();
+        QCOMPARE(panels.requests, QStringList{"Export Spreadsheet *.csv"});
+        QVERIFY(readAll(path).startsWith("Worksheet,Part,Block Size,Count,"));
+        QVERIFY(readAll(path).contains("\r\nWorksheet 1,Straight Block,8,"));
+        // The user guide ships with the program.
+        QVERIFY(QFile::exists(ZOLHelpMenu::userGuidePath()));
     }
 };
 

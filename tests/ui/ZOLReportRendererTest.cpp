@@ -6,6 +6,7 @@
 #include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
 #include "report/ZOLPrintSettings.h"
+#include "ui/ZOLReportProgress.h"
 
 #include <QPrinter>
 #include <QTcpServer>
@@ -124,15 +125,46 @@ private slots:
         printer.setOutputFormat(QPrinter::PdfFormat);
         printer.setOutputFileName(dir.filePath(QStringLiteral("printed.pdf")));
         ZOLReportRenderer renderer(resources());
-        QEventLoop loop;
-        bool printed = false;
-        renderer.print(pages(2), &printer, [&](bool ok, const QString&) {
-            printed = ok;
-            loop.quit();
-        });
-        loop.exec();
-        QVERIFY(printed);
+        auto print = [&](const std::string& report) {
+            QEventLoop loop;
+            bool printed = false;
+            renderer.print(report, &printer, [&](bool ok, const QString&) {
+                printed = ok;
+                loop.quit();
+            });
+            loop.exec();
+            return printed;
+        };
+        QVERIFY(print(pages(2)));
         QCOMPARE(sheetCount(printer.outputFileName()), 2);
+
+        // Print to File writes the vector PDF of the pages asked for: 2 to 3 of 5.
+        printer.setPrintRange(QPrinter::PageRange);
+        printer.setFromTo(2, 3);
+        QVERIFY(print(pages(5)));
+        QCOMPARE(sheetCount(printer.outputFileName()), 2);
+        QVERIFY(readAll(printer.outputFileName()).size() < 200 * 1024);
+    }
+
+    void aLongReportShowsProgressThatCancels() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath(QStringLiteral("cancelled.pdf"));
+        QWidget window;
+        ZOLReportRenderer renderer(resources());
+        ZOLReportProgress shortReport(&window, &renderer, pages(ZOLReportProgress::kFewPages));
+        QVERIFY(!shortReport.dialog());
+        ZOLReportProgress progress(&window, &renderer, pages(40));
+        QVERIFY(progress.dialog());
+        // The user presses Cancel while the report is laid out.
+        QTimer::singleShot(0, progress.dialog(),
+                           [&] { progress.dialog()->findChild<QPushButton*>()->click(); });
+        QString error;
+        QVERIFY(!renderer.writePdf(pages(40), path, &error));
+        QVERIFY(renderer.wasCancelled());
+        QVERIFY(!QFile::exists(path));
+        // The next report is not cancelled.
+        QVERIFY2(renderer.writePdf(pages(1), path, &error), qPrintable(error));
+        QVERIFY(!renderer.wasCancelled());
     }
 };
 

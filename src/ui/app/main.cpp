@@ -12,6 +12,10 @@
 
 #include <clocale>
 
+#ifndef ZOL_VERSION
+#define ZOL_VERSION "1.0"
+#endif
+
 int main(int argc, char* argv[]) {
     // The report renderer's browser engine needs its set-up before the application exists
     // (and its sandbox turned off when running as root).
@@ -23,7 +27,9 @@ int main(int argc, char* argv[]) {
     QApplication::setOrganizationName(QStringLiteral("Zol Blocks"));
     QApplication::setApplicationName(QStringLiteral("Zol Estimator"));
     QApplication::setApplicationDisplayName(QStringLiteral("Zol Estimator"));
-    QApplication::setApplicationVersion(QStringLiteral("1.0"));
+    // Task bars and docks match the windows to the installed launcher and its icon.
+    QGuiApplication::setDesktopFileName(QStringLiteral("com.zolblocks.Estimator"));
+    QApplication::setApplicationVersion(QStringLiteral(ZOL_VERSION));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
