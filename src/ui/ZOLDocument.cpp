@@ -10,6 +10,7 @@
 #include "platform/ZOLAlerts.h"
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLBlockInfoViewController.h"
+#include "ui/ZOLChangeOrderWindow.h"
 #include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
@@ -870,6 +871,8 @@ void ZOLDocument::buildMenus() {
     ZOLSpreadsheetExport::addMenu(file, this);
     QAction* print = file->addAction(tr("&Print…"), this, &ZOLDocument::printDocument);
     print->setShortcut(QKeySequence::Print);
+    file->addAction(tr("Co&mpare With…"), this,
+                    [this] { ZOLChangeOrderWindow::compareWithDocument(this); });
     if (controller_) {
         file->addSeparator();
         QAction* quit = file->addAction(tr("&Quit"), controller_, &ZOLDocumentController::quit);

@@ -78,6 +78,9 @@ public:
     }
 
     QString filePath() const { return filePath_; }
+    // The file's bytes as last opened or saved (empty for a job never saved): the older
+    // version File > Compare With… offers.
+    QByteArray savedFileBytes() const { return fileBytesAtSave_; }
     QString displayName() const;
     bool isDocumentEdited() const { return edited_; }
     // Adopts a recovery file: the document shows its workbook as unsaved changes.

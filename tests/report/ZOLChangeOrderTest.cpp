@@ -1,0 +1,167 @@
+// The change order between two versions of a job: worksheets matched by name, the inputs that
+// differ and exactly their consequences, one price list for both, and the CSV and page forms.
+#include "report/ZOLChangeOrder.h"
+#include "io/ZOLPriceFileReader.h"
+#include "io/ZOLWorkbookReader.h"
+#include "model/ZOLPricing.h"
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+#include "report/ZOLChangeOrderFormat.h"
+#include "support/AlertRecorder.h"
+#include "support/ChangedSample.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Order = ZOLChangeOrder;
+
+std::shared_ptr<ZOLWorkbook> read(const std::string& text) {
+    auto result = ZOLWorkbookReader::readWorkbookData(text);
+    EXPECT_TRUE(result.ok());
+    return result.workbook;
+}
+
+const Order::Worksheet& sheetNamed(const Order& order, const std::string& name) {
+    for (const auto& sheet : order.worksheets())
+        if (sheet.name == name)
+            return sheet;
+    throw std::runtime_error("no worksheet " + name);
+}
+
+// The shown job-summary money of a workbook priced with its own list.
+double jobMoney(ZOLWorkbook workbook) {
+    workbook.generateCustomItems();
+    double total = 0.0;
+    for (const auto& item : workbook.customItems())
+        total += item->visible() ? item->quantity() * item->cost() : 0.0;
+    return total;
+}
+
+} // namespace
+
+TEST(ZOLChangeOrder, IdenticalJobsHaveNoDifference) {
+    ScopedAlertRecorder alerts;
+    const auto job = read(sampleHouseText());
+    const Order order(*job, *read(sampleHouseText()));
+    EXPECT_TRUE(order.isSame());
+    for (const auto& sheet : order.worksheets())
+        EXPECT_EQ(sheet.status, Order::Status::Same) << sheet.name;
+    EXPECT_TRUE(order.jobSummary().empty());
+    EXPECT_EQ(order.money().oldValue, jobMoney(*job));
+    EXPECT_EQ(ZOLChangeOrderFormat::getCSV(order),
+              "worksheet,status,section,record,item,unit,old,new,difference\r\n");
+}
+
+TEST(ZOLChangeOrder, OneLongerWallGivesThatFieldAndOnlyTheWallsConsequences) {
+    ScopedAlertRecorder alerts;
+    const auto older = read(sampleHouseText());
+    const auto newer = read(longerBasement(sampleHouseText()));
+    const Order order(*older, *newer);
+    EXPECT_FALSE(order.isSame());
+    EXPECT_EQ(sheetNamed(order, "Main Floor").status, Order::Status::Same);
+
+    const auto& basement = sheetNamed(order, "Basement");
+    EXPECT_EQ(basement.status, Order::Status::Changed);
+    ASSERT_EQ(basement.fields.size(), 1u);
+    EXPECT_EQ(basement.fields[0].field, "wallLength");
+    EXPECT_EQ(basement.fields[0].oldValue, "168.00 ft");
+    EXPECT_EQ(basement.fields[0].newValue, "180.00 ft");
+    // Only the wall's own figures move: the rebar, concrete and labour records keep their
+    // lengths until the user pulls the wall data into them.
+    for (const auto& result : basement.results)
+        EXPECT_EQ(result.record, "Wall") << result.name;
+
+    const ZOLWall& oldWall = *older->worksheets()[0]->wallData();
+    const ZOLWall& newWall = *newer->worksheets()[0]->wallData();
+    ASSERT_FALSE(basement.parts.empty());
+    for (const auto& part : basement.parts) {
+        EXPECT_EQ(part.count.oldValue, oldWall.getPartCountWithPartType(part.type));
+        EXPECT_EQ(part.count.newValue, newWall.getPartCountWithPartType(part.type));
+        EXPECT_EQ(part.bundles.difference(), newWall.getTotalBundlesWithPartType(part.type) -
+                                                 oldWall.getTotalBundlesWithPartType(part.type));
+    }
+    EXPECT_EQ(basement.parts[0].name, "Straight Block");
+    EXPECT_GT(basement.parts[0].count.difference(), 0);
+    EXPECT_DOUBLE_EQ(order.weight().difference(),
+                     newWall.getTotalPartsWeight() - oldWall.getTotalPartsWeight());
+    EXPECT_DOUBLE_EQ(order.money().difference(), jobMoney(*newer) - jobMoney(*older));
+}
+
+TEST(ZOLChangeOrder, AnAddedWindowIsAChangedRowAndTheWallsOpenings) {
+    ScopedAlertRecorder alerts;
+    const Order order(*read(sampleHouseText()), *read(basementWindowAdded(sampleHouseText())));
+    std::vector<std::string> fields;
+    for (const auto& f : sheetNamed(order, "Basement").fields)
+        fields.push_back(f.record + " " + f.label + ": " + f.oldValue.value_or("-") + " > " +
+                         f.newValue.value_or("-"));
+    EXPECT_EQ(fields, (std::vector<std::string>{"Wall Openings: 69.64 sq ft > 85.64 sq ft",
+                                                "Wall Zol Buck: 67.51 ft > 84.18 ft",
+                                                "Openings Row 1 number: 3 > 4"}));
+}
+
+TEST(ZOLChangeOrder, WorksheetsAddedAndRemovedCountFromNothing) {
+    ScopedAlertRecorder alerts;
+    const auto older = read(sampleHouseText());
+    const auto newer =
+        read(edited(sampleHouseText(), "", "\"Main Floor\"", "\"Shop, &quot;east&quot;\""));
+    const Order order(*older, *newer);
+    ASSERT_EQ(order.worksheets().size(), 4u);
+    const auto& added = order.worksheets()[1];
+    const auto& removed = order.worksheets()[3];
+    EXPECT_EQ(added.status, Order::Status::Added);
+    EXPECT_EQ(removed.status, Order::Status::Removed);
+    EXPECT_EQ(removed.name, "Main Floor");
+    EXPECT_TRUE(added.fields.empty());
+    for (const auto& part : added.parts)
+        EXPECT_EQ(part.count.oldValue, 0) << part.name;
+    for (const auto& part : removed.parts)
+        EXPECT_EQ(part.count.newValue, 0) << part.name;
+    // Same walls, other names: the totals do not move.
+    EXPECT_FALSE(order.weight().differs());
+    EXPECT_FALSE(order.money().differs());
+}
+
+TEST(ZOLChangeOrder, APriceFileChangesOnlyTheMoney) {
+    ScopedAlertRecorder alerts;
+    const auto older = read(sampleHouseText());
+    const auto newer = read(longerBasement(sampleHouseText()));
+    auto prices = std::make_shared<ZOLPricing>(*newer->pricingData());
+    ASSERT_EQ(
+        ZOLPriceFileReader::readPriceData(
+            TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp"), *prices),
+        ZOLReadStatus::Read);
+    const Order own(*older, *newer);
+    const Order priced(*older, *newer, prices);
+    const auto& a = sheetNamed(own, "Basement");
+    const auto& b = sheetNamed(priced, "Basement");
+    EXPECT_EQ(a.fields.size(), b.fields.size());
+    EXPECT_EQ(a.parts.size(), b.parts.size());
+    EXPECT_EQ(a.results.size(), b.results.size());
+    EXPECT_EQ(own.weight().difference(), priced.weight().difference());
+    EXPECT_NE(own.money().newValue, priced.money().newValue);
+}
+
+TEST(ZOLChangeOrderFormat, CsvQuotesAndPageEscapesWhatTheUserTyped) {
+    struct Case {
+        std::string text, csv;
+    };
+    for (const Case& c : std::vector<Case>{{"Straight", "Straight"},
+                                           {"Shop, east", "\"Shop, east\""},
+                                           {"8\" block", "\"8\"\" block\""},
+                                           {"two\nlines", "\"two\nlines\""},
+                                           {"", ""}})
+        EXPECT_EQ(ZOLChangeOrderFormat::csvField(c.text), c.csv) << c.text;
+
+    ScopedAlertRecorder alerts;
+    const auto older = read(sampleHouseText());
+    const auto newer = read(edited(sampleHouseText(), "", "\"Main Floor\"",
+                                   "\"&lt;script&gt;x&lt;/script&gt;, &quot;a&quot;\""));
+    const Order order(*older, *newer);
+    const std::string csv = ZOLChangeOrderFormat::getCSV(order);
+    EXPECT_NE(csv.find("\r\n\"<script>x</script>, \"\"a\"\"\",added,worksheet,"),
+              std::string::npos);
+    const std::string html = ZOLChangeOrderFormat::getHTML(order, {"a", "b", "c"}, *newer, false);
+    EXPECT_EQ(html.find("<script>"), std::string::npos);
+    EXPECT_NE(html.find("&lt;script&gt;x&lt;/script&gt;, &quot;a&quot;"), std::string::npos);
+}

@@ -1,0 +1,36 @@
+#pragma once
+// The sample house and versions of it edited the way a user edits a job, for the change-order
+// tests: the text of the workbook file with one element's text replaced.
+#include "support/TempFolder.h"
+
+#include <stdexcept>
+#include <string>
+
+inline std::string sampleHouseText() {
+    return TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol");
+}
+
+// The text with the first `from` after `after` replaced by `to`; throws when there is none,
+// which fails the test in either framework.
+inline std::string edited(std::string text, const std::string& after, const std::string& from,
+                          const std::string& to) {
+    const auto start = text.find(after);
+    const auto at = start == std::string::npos ? start : text.find(from, start);
+    if (at == std::string::npos)
+        throw std::runtime_error("the sample holds no " + from);
+    return text.replace(at, from.size(), to);
+}
+
+// The basement wall 12 ft longer (168 to 180 ft).
+inline std::string longerBasement(const std::string& text) {
+    return edited(text, "<WallData>", "<WallLength>168.000000", "<WallLength>180.000000");
+}
+
+// One more 48" x 48" window in the basement (3 to 4), with the area and buck the openings
+// screen sends to the wall.
+inline std::string basementWindowAdded(const std::string& text) {
+    std::string out = edited(text, "Basement", "<NumberOfOpenings>3", "<NumberOfOpenings>4");
+    out =
+        edited(out, "<WallData>", "<SquareFeetOpenings>69.638889", "<SquareFeetOpenings>85.638889");
+    return edited(out, "<WallData>", "<LinearFeetBuck>67.513333", "<LinearFeetBuck>84.183333");
+}

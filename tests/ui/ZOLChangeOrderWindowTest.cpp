@@ -1,0 +1,83 @@
+// File > Compare With…: the change order against a chosen file or the last saved state, its
+// filter, and the exported CSV and PDF.
+#include "ui/ZOLChangeOrderWindow.h"
+#include "io/ZOLWorkbookReader.h"
+#include "model/ZOLWall.h"
+#include "model/ZOLWorkbook.h"
+#include "model/ZOLWorksheet.h"
+#include "report/ZOLChangeOrderFormat.h"
+#include "ui/ZOLDocument.h"
+#include "ui/ZOLReportRenderer.h"
+
+#include "UiTestSupport.h"
+#include "support/ChangedSample.h"
+
+namespace {
+std::shared_ptr<ZOLWorkbook> read(const std::string& text) {
+    return ZOLWorkbookReader::readWorkbookData(text).workbook;
+}
+} // namespace
+
+class ZOLChangeOrderWindowTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void showsTheChangeOrderTextAndItsFilter() {
+        ScopedAlertRecorder alerts;
+        auto older = read(sampleHouseText());
+        auto newer = read(longerBasement(sampleHouseText()));
+        ZOLChangeOrderWindow window(older, newer, nullptr, "quote.zol", "now.zol");
+        QVERIFY(window.text().contains("Worksheet \"Main Floor\": same"));
+        QVERIFY(window.text().contains("Wall: Wall length"));
+        window.setOnlyChanges(true);
+        QVERIFY(!window.text().contains("Main Floor"));
+        QCOMPARE(
+            window.text().toStdString(),
+            ZOLChangeOrderFormat::getText(
+                window.changeOrder(), {"quote.zol", "now.zol", "the price list of now.zol"}, true));
+
+        QTemporaryDir dir;
+        QVERIFY(window.writeCsv(dir.filePath("order.csv")));
+        QCOMPARE(readAll(dir.filePath("order.csv")).toStdString(),
+                 ZOLChangeOrderFormat::getCSV(window.changeOrder()));
+        QString error;
+        QVERIFY2(window.writePdf(dir.filePath("order.pdf"), &error), qPrintable(error));
+        QCOMPARE(sheetCount(dir.filePath("order.pdf")), 1);
+    }
+
+    void comparesWithTheLastSavedStateOrAChosenFile() {
+        QTemporaryDir dir;
+        const QString path = dir.filePath("house.zol");
+        writeAll(path, QByteArray::fromStdString(sampleHouseText()));
+        ZOLDocument document;
+        QVERIFY(document.readFromFile(path));
+        document.workbook()->worksheets()[0]->wallData()->setWallLength(180.0);
+        document.noteEdit();
+
+        ScopedAlertRecorder alerts;
+        alerts->answers = {1}; // Last Saved Version
+        auto* window = ZOLChangeOrderWindow::compareWithDocument(&document);
+        QVERIFY(window);
+        QVERIFY(window->text().contains("168.00 ft"));
+        QVERIFY(window->text().contains("180.00 ft"));
+        QVERIFY(window->text().contains("Old version: house.zol as last saved"));
+        window->close();
+
+        // A chosen file that is not there: its alert, and no window.
+        ScriptedPanels panels({dir.filePath("gone.zol")});
+        alerts->answers = {0}; // Choose File…
+        QVERIFY(!ZOLChangeOrderWindow::compareWithDocument(&document));
+        QCOMPARE(panels.requests, QStringList{"Compare With *.zol"});
+        QCOMPARE(QString::fromStdString(alerts->alerts.back().message),
+                 QString("The file “gone.zol” couldn’t be opened."));
+    }
+};
+
+int main(int argc, char** argv) {
+    ZOLReportRenderer::prepareApplication();
+    QApplication app(argc, argv);
+    ZOLChangeOrderWindowTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "ZOLChangeOrderWindowTest.moc"
