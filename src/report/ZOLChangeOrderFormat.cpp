@@ -136,8 +136,9 @@ std::string pad(const std::string& text, std::size_t width, bool right) {
     return right ? fill + text : text + fill;
 }
 
-// Each page holds this many lines of the change order; a longer one goes on to a next page.
-constexpr std::size_t kLinesPerPage = 40;
+// A page holds this many table rows of the change order below its margins; the title block
+// takes 8 of them, a heading or a table's start 2. A longer order goes on to a next page.
+constexpr std::size_t kLinesPerPage = 54;
 
 } // namespace
 
@@ -156,6 +157,8 @@ std::string ZOLChangeOrderFormat::getText(const ZOLChangeOrder& order, const Hea
             text += "\n" + line.cells[0] + "\n";
             break;
         case Line::Columns:
+            text += "\n";
+            [[fallthrough]];
         case Line::Row: {
             std::string row = "  " + pad(line.cells[0], 44, false);
             for (std::size_t i = 1; i < line.cells.size(); ++i)
@@ -184,10 +187,13 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
     bool inTable = false;
     std::size_t used = 0;
     std::vector<std::string> columnTitles;
+    bool inProse = false;
     auto closeTable = [&] {
         if (inTable)
             html += "</table>\n";
-        inTable = false;
+        if (inProse)
+            html += "</p>\n";
+        inTable = inProse = false;
     };
     auto openTable = [&](const std::vector<std::string>& titles) {
         html += "<table>\n<tr>\n";
@@ -197,8 +203,7 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
         html += "</tr>\n";
         inTable = true;
     };
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        const Line& line = lines[i];
+    for (const Line& line : lines) {
         if (line.kind == Line::Title) {
             html += F::format("<div class=\"page\">\n<div class=\"content change-order\">\n"
                               "<h1>%@</h1>\n%@\n",
@@ -206,22 +211,29 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
             used = 8;
             continue;
         }
-        if (used >= kLinesPerPage) {
+        // A heading or a table's column titles never stand alone at the foot of a page.
+        const std::size_t needed = line.kind == Line::Row || line.kind == Line::Prose ? 1 : 4;
+        if (used + needed > kLinesPerPage) {
             closeTable();
             html += "</div>\n</div>\n";
             html += "<div class=\"page\">\n<div class=\"content change-order\">\n"
                     "<h1>Change Order (continued)</h1>\n" +
                     info + "\n";
             used = 8;
-            if (line.kind == Line::Row)
+            if (line.kind == Line::Row) {
                 openTable(columnTitles);
+                used += 2;
+            }
         }
         switch (line.kind) {
         case Line::Title:
             break;
         case Line::Prose:
-            closeTable();
-            html += F::format("<p class=\"tight\">%@</p>\n", escapeHTML(line.cells[0]));
+            // The heading lines read as one block, as the project block above them.
+            if (!inProse)
+                closeTable();
+            html += F::format(inProse ? "<br />\n%@" : "<p>%@", escapeHTML(line.cells[0]));
+            inProse = true;
             used += 1;
             break;
         case Line::Heading:
@@ -233,12 +245,15 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
             closeTable();
             columnTitles = line.cells;
             openTable(columnTitles);
-            used += 1;
+            used += 2;
             break;
         case Line::Row:
             html += "<tr>\n";
             for (std::size_t c = 0; c < line.cells.size(); ++c)
-                html += F::format(c ? "<td style=\"text-align:right\">%@</td>\n" : "<td>%@</td>\n",
+                html += F::format(c ? "<td style=\"text-align:right\">%@</td>\n"
+                                  : line.cells[c].starts_with("  ")
+                                      ? "<td style=\"padding-left:1.5em\">%@</td>\n"
+                                      : "<td>%@</td>\n",
                                   escapeHTML(line.cells[c]));
             html += "</tr>\n";
             used += 1;
