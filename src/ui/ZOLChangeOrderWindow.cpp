@@ -18,7 +18,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
-#include <QPageSize>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -145,12 +144,8 @@ ZOLReportRenderer* ZOLChangeOrderWindow::renderer() {
 void ZOLChangeOrderWindow::printOrder() {
     if (printing_)
         return;
-    // US Letter with no margins, as the report: the page carries its own.
-    auto printer = std::make_shared<QPrinter>(QPrinter::HighResolution);
-    printer->setPageSize(QPageSize(QPageSize::Letter));
-    printer->setFullPage(true);
-    printer->setPageMargins(QMarginsF(0, 0, 0, 0));
-    printer->setDocName(windowTitle());
+    // Shared with the print job's callback: the printer must live until the job ends.
+    std::shared_ptr<QPrinter> printer = ZOLReportRenderer::letterPrinter(windowTitle());
     QPrintDialog dialog(printer.get(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;

@@ -793,12 +793,7 @@ void ZOLDocument::printDocument() {
     const auto report = reportFromPrintSettings(tr("&Print…"));
     if (!report)
         return;
-    // US Letter with no margins: the report's pages carry their own.
-    printer_ = std::make_unique<QPrinter>(QPrinter::HighResolution);
-    printer_->setPageSize(QPageSize(QPageSize::Letter));
-    printer_->setFullPage(true);
-    printer_->setPageMargins(QMarginsF(0, 0, 0, 0));
-    printer_->setDocName(displayName());
+    printer_ = ZOLReportRenderer::letterPrinter(displayName());
     QPrintDialog dialog(printer_.get(), this);
     if (dialog.exec() != QDialog::Accepted)
         return;

@@ -275,6 +275,15 @@ ZOLReportRenderer::~ZOLReportRenderer() {
     delete d->page;
 }
 
+std::unique_ptr<QPrinter> ZOLReportRenderer::letterPrinter(const QString& documentName) {
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    printer->setPageSize(QPageSize(QPageSize::Letter));
+    printer->setFullPage(true);
+    printer->setPageMargins(QMarginsF(0, 0, 0, 0));
+    printer->setDocName(documentName);
+    return printer;
+}
+
 QByteArray ZOLReportRenderer::printableHtml(const std::string& reportHtml) {
     // The byte-order mark settles the text encoding (the report's head names none). After the
     // report: every page div begins a new sheet, so the 0.04 cm a Letter sheet has beyond a page

@@ -37,6 +37,9 @@ public:
     // renderer's own after it, so that each page div fills exactly one sheet and a long report
     // does not drift across sheets (a page div is 27.9 cm, a Letter sheet 27.94 cm).
     static QByteArray printableHtml(const std::string& reportHtml);
+    // A printer for the report's sheets: US Letter with no margins, since the pages carry their
+    // own. The print panel may still change it.
+    static std::unique_ptr<QPrinter> letterPrinter(const QString& documentName);
 
     // Loads the report and makes a PDF of US Letter sheets with no margins, of the given pages
     // only (numbered from 1) when there are any. The callback gets the PDF, or an empty array and
