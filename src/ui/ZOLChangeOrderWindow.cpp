@@ -11,6 +11,7 @@
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLDocument.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLReportRenderer.h"
 #include "ui_ZOLChangeOrderWindow.h"
 
@@ -71,20 +72,19 @@ std::shared_ptr<ZOLWorkbook> ZOLChangeOrderWindow::readWorkbook(const QByteArray
 }
 
 ZOLChangeOrderWindow* ZOLChangeOrderWindow::compareWithDocument(ZOLDocument* document) {
-    const QByteArray saved = document->savedFileBytes();
+    QByteArray olderBytes = document->savedFileBytes();
+    QByteArray olderSnapshot = document->savedSnapshot();
+    QString oldVersion = tr("%1 as last saved").arg(document->displayName());
     bool useSaved = false;
-    if (!saved.isEmpty()) {
+    if (!olderBytes.isEmpty()) {
         const int choice = ZOLAlerts::run(
             utf8(tr("Compare “%1” with which version?").arg(document->displayName())),
-            "The change order shows what changed from that version to the job "
-            "as it stands.",
+            "The change order shows what changed from that version to the job as it stands.",
             {"Choose File…", "Last Saved Version", "Cancel"});
         if (choice == 2)
             return nullptr;
         useSaved = choice == 1;
     }
-    QByteArray olderBytes = saved;
-    QString oldVersion = tr("%1 as last saved").arg(document->displayName());
     if (!useSaved) {
         const QString path = ZOLFilePanels::openFile(document, tr("Compare With"), "zol");
         if (path.isEmpty())
@@ -98,13 +98,19 @@ ZOLChangeOrderWindow* ZOLChangeOrderWindow::compareWithDocument(ZOLDocument* doc
             return nullptr;
         }
         olderBytes = QByteArray(bytes->data(), static_cast<qsizetype>(bytes->size()));
+        olderSnapshot = document->snapshotStore().load(path, olderBytes).value_or(QByteArray());
     }
-    // Both versions go through the file reader, so that what the file format leaves out never
-    // shows as a change; the money uses the price list the user sees.
+    // Both versions as opening them gives them: whole when this computer kept the older one's
+    // snapshot, else both as their files alone say, so that what a file cannot hold (waste,
+    // concrete heights) never shows as a change. The money uses the price list the user sees.
     auto older = readWorkbook(olderBytes, oldVersion);
     auto newer = older ? readWorkbook(document->dataOfType(), document->displayName()) : nullptr;
     if (!newer)
         return nullptr;
+    if (!olderSnapshot.isEmpty()) {
+        ZOLJobSnapshot::apply(olderSnapshot, *older);
+        ZOLJobSnapshot::apply(ZOLJobSnapshot::capture(*document->workbook()), *newer);
+    }
     auto* window =
         new ZOLChangeOrderWindow(older, newer, document->workbook()->pricingData(), oldVersion,
                                  tr("%1 as it stands").arg(document->displayName()), document);

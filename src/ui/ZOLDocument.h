@@ -78,9 +78,11 @@ public:
     }
 
     QString filePath() const { return filePath_; }
-    // The file's bytes as last opened or saved (empty for a job never saved): the older
-    // version File > Compare With… offers.
+    // The job as last opened or saved, the older version File > Compare With… offers: the
+    // file's bytes (empty for a job never saved) and the snapshot kept with them.
     QByteArray savedFileBytes() const { return fileBytesAtSave_; }
+    QByteArray savedSnapshot() const { return snapshotAtSave_; }
+    const ZOLSnapshotStore& snapshotStore() const { return snapshots_; }
     QString displayName() const;
     bool isDocumentEdited() const { return edited_; }
     // Adopts a recovery file: the document shows its workbook as unsaved changes.
