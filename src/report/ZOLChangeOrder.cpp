@@ -536,7 +536,10 @@ ZOLChangeOrder::ZOLChangeOrder(const ZOLWorkbook& older, const ZOLWorkbook& newe
         money_.newValue += line.total.newValue;
         const bool same = a && b && a->visible() == b->visible() && a->unit() == b->unit() &&
                           !line.quantity.differs() && !line.cost.differs();
-        if (!same)
+        // A line hidden in both versions (or hidden in one and missing from the other) is on
+        // neither job summary: nothing the client sees changed.
+        const bool onSummary = (a && a->visible()) || (b && b->visible());
+        if (!same && onSummary)
             jobSummary_.push_back(std::move(line));
     }
 }
