@@ -3,6 +3,7 @@
 // cannot be read, as diff(1) does.
 #include "cli/ZOLCliFiles.h"
 #include "cli/ZOLCliSupport.h"
+#include "io/ZOLNumeric.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "report/ZOLChangeOrder.h"
@@ -23,15 +24,21 @@ struct Options {
     bool csv = false;
 };
 
-nlohmann::json amountJson(const Order::Amount& a) {
+// Counts print as integers, as the take-off prints them.
+nlohmann::json amountJson(const Order::Amount& a, bool whole = false) {
+    if (whole) {
+        const int64_t oldCount = ZOLNumeric::toInt(a.oldValue);
+        const int64_t newCount = ZOLNumeric::toInt(a.newValue);
+        return {{"old", oldCount}, {"new", newCount}, {"difference", newCount - oldCount}};
+    }
     return {{"old", zolcli::number(a.oldValue)},
             {"new", zolcli::number(a.newValue)},
             {"difference", zolcli::number(a.difference())}};
 }
 
 // An amount's three figures merged into an object that names it.
-nlohmann::json withAmount(nlohmann::json object, const Order::Amount& a) {
-    object.update(amountJson(a));
+nlohmann::json withAmount(nlohmann::json object, const Order::Amount& a, bool whole = false) {
+    object.update(amountJson(a, whole));
     return object;
 }
 
@@ -51,15 +58,15 @@ nlohmann::json worksheetJson(const Order::Worksheet& sheet) {
     for (const auto& p : sheet.parts)
         parts.push_back(withAmount({{"type", p.type},
                                     {"name", p.name},
-                                    {"fullBundles", amountJson(p.fullBundles)},
-                                    {"bundles", amountJson(p.bundles)},
+                                    {"fullBundles", amountJson(p.fullBundles, true)},
+                                    {"bundles", amountJson(p.bundles, true)},
                                     {"weight", amountJson(p.weight)}},
-                                   p.count));
+                                   p.count, true));
     nlohmann::json results = nlohmann::json::array();
     for (const auto& r : sheet.results)
         results.push_back(withAmount(
             {{"record", r.record}, {"name", r.name}, {"label", r.label}, {"unit", r.unit}},
-            r.amount));
+            r.amount, r.whole));
     return {{"name", sheet.name},
             {"status", Order::statusText(sheet.status)},
             {"fields", std::move(fields)},
