@@ -79,6 +79,19 @@ private slots:
         QCOMPARE(panels.requests, QStringList{"Compare With *.zol"});
         QCOMPARE(QString::fromStdString(alerts->alerts.back().message),
                  QString("The file “gone.zol” couldn’t be opened."));
+
+        // The File menu's command asks the same question; Cancel opens nothing.
+        QAction* compare = nullptr;
+        for (auto* action : document.findChildren<QAction*>())
+            if (action->text() == "Co&mpare With…")
+                compare = action;
+        QVERIFY(compare);
+        const auto windows = document.findChildren<ZOLChangeOrderWindow*>().size();
+        alerts->answers = {2};
+        compare->trigger();
+        QCOMPARE(QString::fromStdString(alerts->alerts.back().message),
+                 QString("Compare “house.zol” with which version?"));
+        QCOMPARE(document.findChildren<ZOLChangeOrderWindow*>().size(), windows);
     }
 };
 
