@@ -66,13 +66,13 @@ Shown barSize(int32_t measurementCode, int32_t size) {
     return whole(size);
 }
 
-template <class R> struct FieldSpec {
+template <class R> struct FieldRow {
     const char* field;
     const char* label;
     Shown (*show)(const R&);
 };
 
-template <class R> struct ResultSpec {
+template <class R> struct ResultRow {
     const char* name;
     const char* label;
     const char* unit;
@@ -80,7 +80,7 @@ template <class R> struct ResultSpec {
     double (*get)(const R&);
 };
 
-const FieldSpec<ZOLWall> kWallFields[] = {
+const FieldRow<ZOLWall> kWallFields[] = {
     {"blockSize", "Block size",
      [](const ZOLWall& w) {
          return Shown{double(w.blockSize()), F::format("%d\"", w.blockSize())};
@@ -129,7 +129,7 @@ const FieldSpec<ZOLWall> kWallFields[] = {
      }},
 };
 
-const ResultSpec<ZOLWall> kWallResults[] = {
+const ResultRow<ZOLWall> kWallResults[] = {
     {"getTotalWallHeight", "Total height", "ft", false,
      [](const ZOLWall& w) { return w.getTotalWallHeight(); }},
     {"getGrossSqFtOfWall", "Gross area", "sq ft", false,
@@ -150,7 +150,7 @@ const ResultSpec<ZOLWall> kWallResults[] = {
      [](const ZOLWall& w) { return w.getLinearFeetRebar(); }},
 };
 
-const ResultSpec<ZOLOpenings> kOpeningsResults[] = {
+const ResultRow<ZOLOpenings> kOpeningsResults[] = {
     {"getTotalSquareFeet", "Openings area", "sq ft", false,
      [](const ZOLOpenings& o) { return o.getTotalSquareFeet(); }},
     {"getTotalLinearFeet", "Openings perimeter", "lin ft", false,
@@ -159,7 +159,7 @@ const ResultSpec<ZOLOpenings> kOpeningsResults[] = {
      [](const ZOLOpenings& o) { return o.getTotalLinearFeetOfBuck(); }},
 };
 
-const FieldSpec<ZOLRebar> kRebarFields[] = {
+const FieldRow<ZOLRebar> kRebarFields[] = {
     {"measurement", "Measurement", [](const ZOLRebar& r) { return measurement(r.measurement()); }},
     {"wallLength", "Wall length", [](const ZOLRebar& r) { return feet(r.wallLength()); }},
     {"wallHeight", "Wall height", [](const ZOLRebar& r) { return feet(r.wallHeight()); }},
@@ -186,7 +186,7 @@ const FieldSpec<ZOLRebar> kRebarFields[] = {
     {"dowelLength", "Dowel length", [](const ZOLRebar& r) { return wholeInches(r.dowelLength()); }},
 };
 
-const ResultSpec<ZOLRebar> kRebarResults[] = {
+const ResultRow<ZOLRebar> kRebarResults[] = {
     {"getHorizontalLength1", "Horizontal steel 1", "lin ft", false,
      [](const ZOLRebar& r) { return r.getHorizontalLength1(); }},
     {"getHorizontalLength2", "Horizontal steel 2", "lin ft", false,
@@ -197,7 +197,7 @@ const ResultSpec<ZOLRebar> kRebarResults[] = {
      [](const ZOLRebar& r) { return r.getDowelLength(); }},
 };
 
-const FieldSpec<ZOLConcrete> kConcreteFields[] = {
+const FieldRow<ZOLConcrete> kConcreteFields[] = {
     {"measurement", "Measurement",
      [](const ZOLConcrete& c) { return measurement(c.measurement()); }},
     {"footingWidth", "Footing width",
@@ -223,7 +223,7 @@ const FieldSpec<ZOLConcrete> kConcreteFields[] = {
 };
 
 // Volumes are in the record's own measurement: cubic metres for Metric, cubic yards otherwise.
-const ResultSpec<ZOLConcrete> kConcreteResults[] = {
+const ResultRow<ZOLConcrete> kConcreteResults[] = {
     {"getFootingVolume", "Footing", "volume", false,
      [](const ZOLConcrete& c) { return c.getFootingVolume(); }},
     {"getFootingWeight", "Footing weight", "lbs", false,
@@ -242,12 +242,12 @@ const ResultSpec<ZOLConcrete> kConcreteResults[] = {
      [](const ZOLConcrete& c) { return c.getWallWeight(); }},
 };
 
-const FieldSpec<ZOLTilt> kTiltFields[] = {
+const FieldRow<ZOLTilt> kTiltFields[] = {
     {"wallHeight", "Wall height", [](const ZOLTilt& t) { return feet(t.wallHeight()); }},
     {"wallLength", "Wall length", [](const ZOLTilt& t) { return feet(t.wallLength()); }},
 };
 
-const ResultSpec<ZOLTilt> kTiltResults[] = {
+const ResultRow<ZOLTilt> kTiltResults[] = {
     {"getPanels", "Panels", "", true, [](const ZOLTilt& t) { return double(t.getPanels()); }},
     {"getPanelBundles", "Panel bundles", "", true,
      [](const ZOLTilt& t) { return double(t.getPanelBundles()); }},
@@ -260,7 +260,7 @@ const ResultSpec<ZOLTilt> kTiltResults[] = {
      [](const ZOLTilt& t) { return t.getInsertWeight(); }},
 };
 
-const FieldSpec<ZOLManHours> kManHourFields[] = {
+const FieldRow<ZOLManHours> kManHourFields[] = {
     {"squareFeetOfWall", "Square feet of wall",
      [](const ZOLManHours& h) { return squareFeet(h.squareFeetOfWall()); }},
     {"cornersAndTs", "Corners and Ts",
@@ -293,7 +293,7 @@ const FieldSpec<ZOLManHours> kManHourFields[] = {
     {"crewSize", "Crew size", [](const ZOLManHours& h) { return whole(h.crewSize()); }},
 };
 
-const ResultSpec<ZOLManHours> kManHourResults[] = {
+const ResultRow<ZOLManHours> kManHourResults[] = {
     {"getTotalProjectRating", "Project rating", "", true,
      [](const ZOLManHours& h) { return double(h.getTotalProjectRating()); }},
     {"getManHourRate", "Man-hour rate", "man hours per sq ft", false,
@@ -323,26 +323,26 @@ struct Pair {
 
 template <class R, std::size_t N>
 void compareFields(std::vector<ZOLChangeOrder::Field>& out, const char* recordName,
-                   const FieldSpec<R> (&specs)[N], const R& older, const R& newer) {
-    for (const auto& spec : specs) {
-        const Shown a = spec.show(older);
-        const Shown b = spec.show(newer);
+                   const FieldRow<R> (&rows)[N], const R& older, const R& newer) {
+    for (const auto& row : rows) {
+        const Shown a = row.show(older);
+        const Shown b = row.show(newer);
         if (ZOLChangeOrder::Amount{a.raw, b.raw}.differs() || a.text != b.text)
-            out.push_back({recordName, spec.field, spec.label, a.text, b.text});
+            out.push_back({recordName, row.field, row.label, a.text, b.text});
     }
 }
 
 template <class R, std::size_t N>
 void compareResults(std::vector<ZOLChangeOrder::Result>& out, const char* recordName,
-                    const ResultSpec<R> (&specs)[N], const R* older, const R* newer,
+                    const ResultRow<R> (&rows)[N], const R* older, const R* newer,
                     const char* volumeUnit = "") {
-    for (const auto& spec : specs) {
-        ZOLChangeOrder::Amount amount{older ? spec.get(*older) : 0.0,
-                                      newer ? spec.get(*newer) : 0.0};
+    for (const auto& row : rows) {
+        ZOLChangeOrder::Amount amount{older ? row.get(*older) : 0.0,
+                                      newer ? row.get(*newer) : 0.0};
         if (!amount.differs())
             continue;
-        const std::string unit = std::string(spec.unit) == "volume" ? volumeUnit : spec.unit;
-        out.push_back({recordName, spec.name, spec.label, unit, spec.whole, amount});
+        const std::string unit = std::string(row.unit) == "volume" ? volumeUnit : row.unit;
+        out.push_back({recordName, row.name, row.label, unit, row.whole, amount});
     }
 }
 
@@ -366,18 +366,18 @@ void compareOpeningRows(std::vector<ZOLChangeOrder::Field>& out, const ZOLOpenin
     for (std::size_t i = 0; i < std::max(a.size(), b.size()); ++i) {
         const ZOLOpening* oldRow = i < a.size() ? a[i].get() : nullptr;
         const ZOLOpening* newRow = i < b.size() ? b[i].get() : nullptr;
-        for (const auto& spec : kRowFields) {
+        for (const auto& row : kRowFields) {
             std::optional<Shown> x, y;
             if (oldRow)
-                x = spec.show(*oldRow);
+                x = row.show(*oldRow);
             if (newRow)
-                y = spec.show(*newRow);
+                y = row.show(*newRow);
             if (x && y && !ZOLChangeOrder::Amount{x->raw, y->raw}.differs())
                 continue;
             if (!x && !y)
                 continue;
-            out.push_back({"Openings", spec.field,
-                           F::format("Row %d %@", static_cast<int32_t>(i + 1), spec.label),
+            out.push_back({"Openings", row.field,
+                           F::format("Row %d %@", static_cast<int32_t>(i + 1), row.label),
                            x ? std::optional(x->text) : std::nullopt,
                            y ? std::optional(y->text) : std::nullopt});
         }
