@@ -1,6 +1,7 @@
 #include "report/ZOLChangeOrderFormat.h"
 
 #include "io/ZOLFormat.h"
+#include "io/ZOLXMLWriter.h"
 #include "model/ZOLWorkbook.h"
 #include "report/ZOLChangeOrder.h"
 #include "report/ZOLPrintData.h"
@@ -175,12 +176,10 @@ std::string ZOLChangeOrderFormat::getText(const ZOLChangeOrder& order, const Hea
 
 std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Heading& heading,
                                           const ZOLWorkbook& newer, bool onlyChanges) {
-    auto escaped = [](const std::optional<std::string>& t) -> std::optional<std::string> {
-        return t ? std::optional(escapeHTML(*t)) : std::nullopt;
-    };
     const std::string info = ZOLPrintData::getProjectInfoHTML(
-        nullptr, escaped(newer.projectName()), escaped(newer.projectVersion()),
-        escaped(newer.clientName()), escaped(newer.distributorName()), newer.projectDate());
+        nullptr, ZOLXMLWriter::escape(newer.projectName()),
+        ZOLXMLWriter::escape(newer.projectVersion()), ZOLXMLWriter::escape(newer.clientName()),
+        ZOLXMLWriter::escape(newer.distributorName()), newer.projectDate());
     const auto lines = orderLines(order, heading, onlyChanges);
 
     std::string html = ZOLPrintData::getHeaderHTML();
@@ -199,7 +198,7 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
         html += "<table>\n<tr>\n";
         for (std::size_t i = 0; i < titles.size(); ++i)
             html += F::format(i ? "<th style=\"text-align:right\">%@</th>\n" : "<th>%@</th>\n",
-                              escapeHTML(titles[i]));
+                              ZOLXMLWriter::escape(titles[i]));
         html += "</tr>\n";
         inTable = true;
     };
@@ -207,7 +206,7 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
         if (line.kind == Line::Title) {
             html += F::format("<div class=\"page\">\n<div class=\"content change-order\">\n"
                               "<h1>%@</h1>\n%@\n",
-                              escapeHTML(line.cells[0]), info);
+                              ZOLXMLWriter::escape(line.cells[0]), info);
             used = 8;
             continue;
         }
@@ -232,13 +231,14 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
             // The heading lines read as one block, as the project block above them.
             if (!inProse)
                 closeTable();
-            html += F::format(inProse ? "<br />\n%@" : "<p>%@", escapeHTML(line.cells[0]));
+            html +=
+                F::format(inProse ? "<br />\n%@" : "<p>%@", ZOLXMLWriter::escape(line.cells[0]));
             inProse = true;
             used += 1;
             break;
         case Line::Heading:
             closeTable();
-            html += F::format("<h3>%@</h3>\n", escapeHTML(line.cells[0]));
+            html += F::format("<h3>%@</h3>\n", ZOLXMLWriter::escape(line.cells[0]));
             used += 2;
             break;
         case Line::Columns:
@@ -254,7 +254,7 @@ std::string ZOLChangeOrderFormat::getHTML(const ZOLChangeOrder& order, const Hea
                                   : line.cells[c].starts_with("  ")
                                       ? "<td style=\"padding-left:1.5em\">%@</td>\n"
                                       : "<td>%@</td>\n",
-                                  escapeHTML(line.cells[c]));
+                                  ZOLXMLWriter::escape(line.cells[c]));
             html += "</tr>\n";
             used += 1;
             break;
@@ -324,31 +324,4 @@ std::string ZOLChangeOrderFormat::csvField(const std::string& text) {
     for (char c : text)
         quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
     return quoted + "\"";
-}
-
-std::string ZOLChangeOrderFormat::escapeHTML(const std::string& text) {
-    std::string out;
-    out.reserve(text.size());
-    for (char c : text) {
-        switch (c) {
-        case '&':
-            out += "&amp;";
-            break;
-        case '<':
-            out += "&lt;";
-            break;
-        case '>':
-            out += "&gt;";
-            break;
-        case '"':
-            out += "&quot;";
-            break;
-        case '\'':
-            out += "&#39;";
-            break;
-        default:
-            out += c;
-        }
-    }
-    return out;
 }

@@ -23,7 +23,8 @@ public:
     static std::string getText(const ZOLChangeOrder& order, const Heading& heading,
                                bool onlyChanges);
     // The change-order pages (one, or more for a long order) as a whole HTML document in the
-    // report's style, with the newer job's project block. Every text from the files is escaped.
+    // report's style, with the newer job's project block. Every text from the files has its
+    // markup characters written as entities, so that a name cannot become markup.
     static std::string getHTML(const ZOLChangeOrder& order, const Heading& heading,
                                const ZOLWorkbook& newer, bool onlyChanges);
     // RFC 4180: a header row, then one row per difference; CRLF line ends.
@@ -31,6 +32,4 @@ public:
 
     // A CSV field, quoted when it holds a comma, a quote or a line break.
     static std::string csvField(const std::string& text);
-    // Text for HTML: & < > " and ' as entities.
-    static std::string escapeHTML(const std::string& text);
 };
