@@ -4,6 +4,7 @@
 #include "io/ZOLXMLWriter.h"
 #include "model/ZOLWorkbook.h"
 #include "report/ZOLChangeOrder.h"
+#include "report/ZOLCsvExport.h"
 #include "report/ZOLPrintData.h"
 
 #include <tuple>
@@ -270,7 +271,7 @@ std::string ZOLChangeOrderFormat::getCSV(const ZOLChangeOrder& order) {
     std::string csv;
     auto row = [&csv](std::vector<std::string> cells) {
         for (std::size_t i = 0; i < cells.size(); ++i)
-            csv += (i ? "," : "") + csvField(cells[i]);
+            csv += (i ? "," : "") + ZOLCsvExport::field(cells[i]);
         csv += "\r\n";
     };
     auto amount = [&](const std::string& sheet, const char* status, const char* section,
@@ -315,13 +316,4 @@ std::string ZOLChangeOrderFormat::getCSV(const ZOLChangeOrder& order) {
         if (a->differs())
             amount("", "changed", "total", "", item, unit, *a, false);
     return csv;
-}
-
-std::string ZOLChangeOrderFormat::csvField(const std::string& text) {
-    if (text.find_first_of(",\"\r\n") == std::string::npos)
-        return text;
-    std::string quoted = "\"";
-    for (char c : text)
-        quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-    return quoted + "\"";
 }

@@ -29,7 +29,4 @@ public:
                                const ZOLWorkbook& newer, bool onlyChanges);
     // RFC 4180: a header row, then one row per difference; CRLF line ends.
     static std::string getCSV(const ZOLChangeOrder& order);
-
-    // A CSV field, quoted when it holds a comma, a quote or a line break.
-    static std::string csvField(const std::string& text);
 };

@@ -142,17 +142,7 @@ TEST(ZOLChangeOrder, APriceFileChangesOnlyTheMoney) {
     EXPECT_NE(own.money().newValue, priced.money().newValue);
 }
 
-TEST(ZOLChangeOrderFormat, CsvQuotesAndPageEscapesWhatTheUserTyped) {
-    struct Case {
-        std::string text, csv;
-    };
-    for (const Case& c : std::vector<Case>{{"Straight", "Straight"},
-                                           {"Shop, east", "\"Shop, east\""},
-                                           {"8\" block", "\"8\"\" block\""},
-                                           {"two\nlines", "\"two\nlines\""},
-                                           {"", ""}})
-        EXPECT_EQ(ZOLChangeOrderFormat::csvField(c.text), c.csv) << c.text;
-
+TEST(ZOLChangeOrderFormat, CsvQuotesAndThePageEscapesWhatTheUserTyped) {
     ScopedAlertRecorder alerts;
     const auto older = read(sampleHouseText());
     const auto newer = read(edited(sampleHouseText(), "", "\"Main Floor\"",
