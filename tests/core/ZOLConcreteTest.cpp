@@ -6,13 +6,9 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 namespace {
-constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
-constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
 constexpr double kPi = 3.141592653589793;
 constexpr double kCubicInchesPerYard = 46656.0;
 using Calc = ZOLConcreteCalculator;
@@ -71,32 +67,10 @@ TEST(ZOLConcreteCalculator, VolumesTestForMetresExactlyWhileWeightTestsForNotYar
               Calc::calculateConcreteWithLength(1200, 20, 10, 0, 0.0));
     EXPECT_NEAR(Calc::calculatePileConcreteWithDepth(120, 6, 1),
                 Calc::calculatePileConcreteWithDepth(120, 6, 0) * 0.76455485798, 1e-12);
-    EXPECT_EQ(Calc::calculatePileConcreteWithDepth(120, 6, -1),
-              Calc::calculatePileConcreteWithDepth(120, 6, 0));
     EXPECT_NEAR(Calc::calculateConcreteWeightForVolume(1.0, 0), 27 * 143.38, 1e-4);
     const double metre = Calc::calculateConcreteWeightForVolume(1.0, 1);
     EXPECT_NEAR(metre, 27 * 143.38 / 0.76455485798, 1e-4);
     EXPECT_EQ(Calc::calculateConcreteWeightForVolume(1.0, 2), metre);
-    EXPECT_EQ(Calc::calculateConcreteWeightForVolume(1.0, -1), metre);
-}
-
-TEST(ZOLConcrete, ExtremeInputsStayDefined) {
-    ZOLConcrete c;
-    c.setPileDiameter(kMin);
-    c.setPileDepth(1);
-    c.setPileCount(kMax);
-    EXPECT_GT(c.getPileVolume(), 0.0);
-    c.setFootingLength(NAN);
-    c.setFootingWidth(kMax);
-    c.setFootingDepth(kMin);
-    EXPECT_TRUE(std::isnan(c.getFootingWeight()));
-    // An infinite width times nothing to remove is not a number, and so is the pour.
-    c.setSlabLength(1e308);
-    c.setSlabWidth(1e308);
-    c.setSlabDepth(kMax);
-    EXPECT_TRUE(std::isnan(c.getSlabVolume()));
-    c.setSlabWidth(10);
-    EXPECT_EQ(c.getSlabVolume(), INFINITY);
 }
 
 TEST(ZOLConcrete, WritesFifteenFieldsAndReadsBackThirteen) {

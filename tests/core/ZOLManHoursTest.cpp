@@ -6,14 +6,10 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
-#include <limits>
 #include <tuple>
 #include <utility>
 
 namespace {
-constexpr int32_t kMax = std::numeric_limits<int32_t>::max();
-constexpr int32_t kMin = std::numeric_limits<int32_t>::min();
 using Calc = ZOLManHourCalculator;
 
 struct Band {
@@ -41,46 +37,43 @@ TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
 }
 
 TEST(ZOLManHourCalculator, RatingScalesAtTheirBandEdges) {
-    const Band sqFt[] = {{6000, 0, 1}, {5999.9, 0, 2}, {4000, 0, 2}, {3999.99, 0, 3}, {2000, 0, 3},
-                         {1000, 0, 4}, {999.99, 0, 5}, {0, 0, 5},    {NAN, 0, 5}};
+    const Band sqFt[] = {{6000, 0, 1}, {5999.9, 0, 2}, {4000, 0, 2},  {3999.99, 0, 3},
+                         {2000, 0, 3}, {1000, 0, 4},   {999.99, 0, 5}};
     for (const Band& x : sqFt)
         EXPECT_EQ(Calc::getSqFtWallRatingWithSqFtOfWall(x.a), x.rating) << x.a;
     // Corners and Ts per square foot: a narrow first band, a wide second one.
-    const Band corners[] = {{0, 1000, 1},  {50, 0, 1},    {3, 1000, 1},  {4, 1000, 3},
-                            {45, 1000, 3}, {451, 1e4, 5}, {60, 1000, 5}, {70, 1000, 7},
-                            {71, 1000, 9}, {-5, 1000, 1}, {5, NAN, 9}};
+    const Band corners[] = {{50, 0, 1},    {3, 1000, 1},  {4, 1000, 3}, {45, 1000, 3},
+                            {451, 1e4, 5}, {70, 1000, 7}, {71, 1000, 9}};
     for (const Band& x : corners)
         EXPECT_EQ(Calc::getCornerTsRatingWithNumberOfCornersAndTs(static_cast<int32_t>(x.a), x.b),
                   x.rating)
             << x.a << " / " << x.b;
-    const Band openings[] = {{0, 1000, 1},  {500, 0, 1},   {30, 1000, 1},  {31, 1000, 3},
-                             {60, 1000, 3}, {90, 1000, 5}, {200, 1000, 7}, {201, 1000, 9}};
+    const Band openings[] = {{500, 0, 1},   {30, 1000, 1},  {31, 1000, 3},
+                             {90, 1000, 5}, {200, 1000, 7}, {201, 1000, 9}};
     for (const Band& x : openings)
         EXPECT_EQ(Calc::getOpeningsRatingWithSqFtOfOpenings(x.a, x.b), x.rating) << x.a;
-    const Band corbel[] = {{500, 0, 1},   {0, 1000, 1},   {20, 1000, 1},  {21, 1000, 3},
-                           {50, 1000, 3}, {100, 1000, 5}, {150, 1000, 7}, {151, 1000, 9}};
+    const Band corbel[] = {{500, 0, 1},    {20, 1000, 1},  {21, 1000, 3},
+                           {100, 1000, 5}, {150, 1000, 7}, {151, 1000, 9}};
     for (const Band& x : corbel)
         EXPECT_EQ(Calc::getCorbelCurbTaperRatingWithLinealFeet(x.a, x.b), x.rating) << x.a;
     // The fourth height band is 8, not 7.
-    const Band height[] = {{0, 0, 1},    {4, 0, 1},  {4.01, 0, 3},  {10, 0, 3},      {12, 0, 5},
-                           {12.5, 0, 8}, {20, 0, 8}, {20.01, 0, 9}, {INFINITY, 0, 9}};
+    const Band height[] = {{4, 0, 1},    {4.01, 0, 3}, {10, 0, 3},   {12, 0, 5},
+                           {12.5, 0, 8}, {20, 0, 8},   {20.01, 0, 9}};
     for (const Band& x : height)
         EXPECT_EQ(Calc::getWallHeightRatingWithWallHeight(x.a), x.rating) << x.a;
-    const Band crew[] = {{6, 0, 3},    {0, 1000, 3}, {3, 1000, 3}, {4, 1000, 4}, {45, 1e4, 4},
-                         {6, 1000, 5}, {7, 1000, 7}, {75, 1e4, 7}, {8, 1000, 9}};
+    const Band crew[] = {{6, 0, 3},    {3, 1000, 3}, {4, 1000, 4}, {45, 1e4, 4},
+                         {6, 1000, 5}, {7, 1000, 7}, {8, 1000, 9}};
     for (const Band& x : crew)
         EXPECT_EQ(Calc::getCrewSizeRatingWithCrewSize(static_cast<int32_t>(x.a), x.b), x.rating)
             << x.a << " / " << x.b;
-    EXPECT_EQ(Calc::getOtherTurnsRatingWithNumberOfOtherTurns(-3), -3);
 }
 
 TEST(ZOLManHourCalculator, RateTableByTotalRating) {
+    // Steps of two ratings, each at its first entry; 0.005 a step up to 35, then uneven.
     const std::pair<int32_t, double> table[] = {
-        {kMin, 0.05}, {15, 0.05},  {16, 0.055}, {17, 0.055}, {18, 0.06},  {19, 0.06},  {20, 0.065},
-        {21, 0.065},  {22, 0.07},  {23, 0.07},  {24, 0.075}, {25, 0.075}, {26, 0.08},  {27, 0.08},
-        {28, 0.085},  {29, 0.085}, {30, 0.09},  {31, 0.09},  {32, 0.095}, {33, 0.095}, {34, 0.1},
-        {35, 0.1},    {36, 0.11},  {37, 0.11},  {38, 0.12},  {39, 0.12},  {40, 0.125}, {41, 0.125},
-        {42, 0.13},   {43, 0.13},  {44, 0.14},  {45, 0.14},  {46, 0.15},  {kMax, 0.15}};
+        {15, 0.05}, {16, 0.055}, {17, 0.055}, {18, 0.06},  {20, 0.065}, {22, 0.07}, {24, 0.075},
+        {26, 0.08}, {28, 0.085}, {30, 0.09},  {32, 0.095}, {34, 0.1},   {35, 0.1},  {36, 0.11},
+        {38, 0.12}, {40, 0.125}, {42, 0.13},  {44, 0.14},  {46, 0.15},  {47, 0.15}};
     for (const auto& [rating, rate] : table)
         EXPECT_EQ(Calc::getManHourRateWithRating(rating), rate) << "rating " << rating;
 }
@@ -89,10 +82,8 @@ TEST(ZOLManHourCalculator, HoursAndDaysInBothForms) {
     EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0); // no crew
 
     EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(100.5, 1), 101);
-    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(NAN, 1), 0);
-    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(1e300, 1e10), kMax);
     // Whole days of 8.5 hours each for the crew, at least one.
-    const int32_t days[][3] = {{0, 6, 1}, {51, 6, 1}, {52, 6, 2}, {10, 0, kMax}, {kMax, kMin, 0}};
+    const int32_t days[][3] = {{0, 6, 1}, {51, 6, 1}, {52, 6, 2}};
     for (const auto& [hours, crew, whole] : days)
         EXPECT_EQ(Calc::calculateDaysWithHours(hours, crew), whole) << hours << " / " << crew;
 }
@@ -113,21 +104,6 @@ TEST(ZOLManHours, TotalAddsEveryRatingOnce) {
     EXPECT_NEAR(job.getDaysToComplete(), 90.0 / 51.0, 1e-12);
 }
 
-TEST(ZOLManHours, AbsurdCountsWrapInsteadOfOverflowing) {
-    ZOLManHours h;
-    h.setOtherTurns(kMax);
-    h.setRebarComplexity(kMax);
-    h.setCrewExperience(kMin);
-    h.setCrewSize(kMin);
-    h.setCornersAndTs(kMax);
-    h.setSquareFeetOfWall(NAN);
-    // A wall that is not a number passes no band test: corners, crew and corbel rate 9,
-    // square feet 5. 9 + MIN + 9 + 9 + MAX + 5 + 1 + 5 + 3 + MAX wraps round to MIN + 39.
-    EXPECT_EQ(h.getTotalProjectRating(), kMin + 39);
-    EXPECT_EQ(h.getManHourRate(), 0.05);
-    EXPECT_TRUE(std::isnan(h.getDaysToComplete()));
-}
-
 TEST(ZOLManHourCalculator, JudgementListsConvertBetweenIndexRatingAndWord) {
     const int32_t complexityIndex[] = {2, 0, 1, 2, 2, 2, 3, 2, 2, 4, 2}; // ratings 0 to 10
     const int32_t conditionIndex[] = {1, 1, 1, 2, 1, 1, 1, 1, 1, 0, 1};
@@ -137,7 +113,6 @@ TEST(ZOLManHourCalculator, JudgementListsConvertBetweenIndexRatingAndWord) {
         EXPECT_EQ(Calc::getConditionRatingIndex(rating), conditionIndex[rating]) << rating;
         EXPECT_EQ(Calc::getExperienceRatingIndex(rating), experienceIndex[rating]) << rating;
     }
-    EXPECT_EQ(Calc::getComplexityRatingIndex(kMin), 2);
 
     // Past the list, and with nothing selected, the middle judgement.
     const uint64_t index[] = {0, 1, 2, 3, 4, 5, static_cast<uint64_t>(-1)};

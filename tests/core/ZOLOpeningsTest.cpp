@@ -1,13 +1,11 @@
 // Openings: per-row area, perimeter and buck, the list's totals and its file element.
 #include "model/ZOLOpenings.h"
 #include "calc/ZOLOpeningsCalculator.h"
-#include "support/GoldenFile.h"
 #include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
-#include <climits>
-#include <cmath>
+#include <tuple>
 
 namespace {
 std::shared_ptr<ZOLOpening> row(int32_t count, double width, double height, bool sill = true) {
@@ -40,9 +38,6 @@ TEST(ZOLOpenings, RowAreaPerimeterAndBuck) {
                       none->getTotalLinearFeetOfBuck(),
                   0.0);
     EXPECT_EQ(ZOLOpeningsCalculator::calculateLFZolBuckWithOpeningHeight(0.0, 36, true), 0.0);
-    // Not range-checked, but defined.
-    EXPECT_TRUE(std::isnan(row(1, NAN, 48)->getTotalLinearFeet()));
-    EXPECT_GT(row(INT_MAX, 1e300, 1e300)->getTotalSquareFeet(), 0.0);
 }
 
 TEST(ZOLOpenings, ListTotalsAndAppending) {
@@ -72,7 +67,10 @@ TEST(ZOLOpenings, FileElementsAndRowCodes) {
     expectOtherCodesIgnored(first, 24, 28);
     openings.setOpeningList({std::make_shared<ZOLOpening>(first),
                              std::make_shared<ZOLOpening>(readRecord<ZOLOpening>(second))});
-    expectGoldenFile("xml/openings-filled.xml", openings.getXMLString());
+    const ZOLOpening& read = *openings.openingList()[1];
+    EXPECT_EQ(std::tuple(read.rowNumber(), read.numberOfOpenings(), read.openingWidth(),
+                         read.openingHeight(), read.useSill()),
+              std::tuple(1, 1, 72.5, 80.0, false));
 
     // An absent text reads as nothing: no openings, no sill.
     ZOLOpening opening;

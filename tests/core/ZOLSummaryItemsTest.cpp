@@ -247,18 +247,4 @@ TEST(ZOLSummaryItemsTest, LabourRateAveragesWithoutDividingByNothing) {
     };
     EXPECT_EQ(summary(2400, 0, 800, 0)->cost(), 0.0);
     expectLine(summary(0, 30, 0, 45), "ManHours", "Total Man Hours", "Hours", 0.0, 0.0, false);
-    // Hours that cancel out below nothing (500 and -5000 sq ft): the plain average of the rates.
-    EXPECT_DOUBLE_EQ(summary(500, 10, -5000, 20)->cost(), 15.0);
-}
-
-TEST_F(JobSummaryTest, AbsurdEntriesNeitherOverflowNorStopTheSummary) {
-    wall(0).setWallLength(1e300); // counts saturate; their sums wrap instead of overflowing
-    wall(2).setWallLength(1e300);
-    // A vertical spacing of 6" gives infinitely many feet of steel.
-    *sheet(0).rebarData() = readRecord<ZOLRebar>({{30, "100"}, {39, "6"}});
-    *sheet(1).manHourData() = readRecord<ZOLManHours>({{70, "1e308"}, {79, "1e308"}});
-    workbook.generateCustomItems();
-    EXPECT_EQ(workbook.customItems()[0]->calculatorType(), "Wall");
-    EXPECT_EQ(linesOf(workbook, "Rebar").size(), 1U);
-    EXPECT_EQ(linesOf(workbook, "ManHours").size(), 1U);
 }

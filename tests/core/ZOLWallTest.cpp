@@ -117,8 +117,7 @@ TEST(ZOLWall, CornersAnglesAndTsPerSize) {
     EXPECT_EQ(angles.getAngleBlocks(), 20); // 3 × 6 rows + 2 for the half course
     // Angles stay in the straight run but replace three quarters of a block each: 150 - 15.
     EXPECT_EQ(angles.getStraightBlocks(), 138);
-    for (const auto& [locations, added] : {std::pair{3, 2}, {0, 0}, {-4, 0}})
-        EXPECT_EQ(WC::calculateAddedAngleOrTBlockWithNumberOfLocations(locations), added);
+    EXPECT_EQ(WC::calculateAddedAngleOrTBlockWithNumberOfLocations(3), 2);
 
     const double outside[] = {60, 64, 68, 72, 76};
     const double angle[] = {44, 35, 37, 0, 0};
@@ -129,7 +128,6 @@ TEST(ZOLWall, CornersAnglesAndTsPerSize) {
         EXPECT_DOUBLE_EQ(WC::calculateLFTsWithBlockSize(size, 3),
                          size == 6 || size == 8 ? 11.0 : 0.0);
     }
-    EXPECT_EQ(WC::calculateLFOutsideCornersWithBlockSize(9, 3), 0.0);
     EXPECT_DOUBLE_EQ(WC::calculateLFInsideCornersWithNumberOfInsideCorners(2), 6.9);
 }
 
@@ -191,9 +189,6 @@ TEST(ZOLWall, CaloraLayersNarrowTheCore) {
                 WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 4 + 2 * i, 0, layers);
             EXPECT_NEAR(yards, expected[i][layers], 1e-9) << 4 + 2 * i << "/" << layers;
         }
-    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 5, 0, 2), 5, 1e-9);
-    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 14, 0, 2), 14, 1e-9);
-    EXPECT_NEAR(WC::calculateCubicYardsOfConcreteWithWallHeight(27, 12, 12, 0, -1), 12, 1e-9);
 
     ZOLWall wall = wallOf(100);
     wall.setCaloraStickLayers(2);
@@ -213,9 +208,6 @@ TEST(ZOLWall, ClipsBundlesAndTrucks) {
     EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, 144), 12);
     EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, 145), 13);
     EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 10, 60), 0); // no radius blocks in 8"
-    EXPECT_EQ(WC::calculateBundlesWithBlockSize(4, 4, INT_MAX), 238609295);
-    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, INT_MIN), -178956969);
-    EXPECT_EQ(WC::calculateBundlesWithBlockSize(8, 0, -5), 1); // any remainder adds one
 
     // One bundle in each position at 8 and 6 inches: the space units each one takes.
     const double units8[15] = {55, 55, 41, 41, 53, 41, 55, 55, 54, 55, 0, 14, 17, 11, 17};
@@ -224,18 +216,14 @@ TEST(ZOLWall, ClipsBundlesAndTrucks) {
         EXPECT_DOUBLE_EQ(trucks(8, k, 1), units8[k] / 2520.0) << "position " << k;
         EXPECT_DOUBLE_EQ(trucks(6, k, 1), units6[k] / 2520.0) << "position " << k;
     }
-    // Each bundle count is rounded up as a whole, not per bundle; nothing divides a loss.
+    // Each bundle count is rounded up as a whole, not per bundle.
     EXPECT_DOUBLE_EQ(trucks(8, 0, 2), 109 / 2520.0);
-    EXPECT_EQ(trucks(8, 0, -1), -54.0);
 }
 
 TEST(ZOLWall, RowsAndRebarTruncate) {
     EXPECT_EQ(WC::calculateRowsWithWallHeight(9.334), 7);
     EXPECT_EQ(WC::calculateRowsWithWallHeight(9.3), 6);
-    EXPECT_EQ(WC::calculateRowsWithWallHeight(-2.0), -1);
     EXPECT_EQ(WC::calculateRebarWithWallHeight(8, 0), 0.0);
-    EXPECT_EQ(WC::calculateRebarWithWallHeight(8, -10), 0.0);
-    EXPECT_EQ(WC::calculateBracingWithWallLength(-10), 0);
     EXPECT_EQ(WC::calculateBracingWithWallLength(6.01), 2);
     EXPECT_EQ(WC::calculateStraightBlockWithWallLength(10, 0, 0, 6, 100, 0), 0);
 }
@@ -264,13 +252,6 @@ TEST(ZOLWall, UnreasonableInputsStayDefined) {
                 everyQuery(w);
             }
         }
-    ZOLWall nan = wallOf(NAN);
-    EXPECT_EQ(nan.getStraightBlocks(), 0);
-    EXPECT_EQ(nan.getBracing(), 0);
-    EXPECT_EQ(nan.getLinearFeetRebar(), 0.0);
-    ZOLWall huge = wallOf(1e300);
-    EXPECT_EQ(huge.getStraightBlocks(), INT_MAX);
-    EXPECT_EQ(huge.getBracing(), INT_MAX);
 }
 
 TEST(ZOLWall, WritesEveryFieldButTheWasteAndReadsThemBack) {
