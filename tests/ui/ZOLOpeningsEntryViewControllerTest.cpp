@@ -50,12 +50,10 @@ private slots:
     void init() {
         openings = std::make_shared<ZOLOpenings>();
         wall = std::make_shared<ZOLWall>();
-        screen = std::make_unique<ZOLOpeningsEntryViewController>();
-        screen->setOpeningData(openings);
-        screen->setWallData(wall);
-        screen->loadValues();
-        screen->show();
-        QVERIFY(QTest::qWaitForWindowExposed(screen.get()));
+        screen = shownScreen<ZOLOpeningsEntryViewController>([this](auto& s) {
+            s.setOpeningData(openings);
+            s.setWallData(wall);
+        });
     }
     void cleanup() { screen.reset(); }
 

@@ -20,11 +20,7 @@ class ZOLWallEntryViewControllerTest : public QObject {
 private slots:
     void init() {
         wall = std::make_shared<ZOLWall>();
-        screen = std::make_unique<ZOLWallEntryViewController>();
-        screen->setWallData(wall);
-        screen->loadValues();
-        screen->show();
-        QVERIFY(QTest::qWaitForWindowExposed(screen.get()));
+        screen = shownScreen<ZOLWallEntryViewController>([this](auto& s) { s.setWallData(wall); });
     }
     void cleanup() { screen.reset(); }
 
@@ -189,17 +185,18 @@ private slots:
     }
 
     void courseBoxesSetFlagsAndTotalHeight() {
+        // Each box ticked in turn, with the total height it leaves.
+        const std::tuple<const char*, bool (ZOLWall::*)() const, const char*> boxes[] = {
+            {"addHalfBlock", &ZOLWall::useHalfBlock, "8' 8\""},
+            {"addExtenders", &ZOLWall::useExtenders, "9' 0\""},
+            {"addCutBlock", &ZOLWall::useCutBlock, "9' 8\""},
+            {"addPravex", &ZOLWall::usePravex, "9' 8\""}};
+        for (const auto& [name, read, height] : boxes) {
+            control<QCheckBox>(name)->click();
+            QVERIFY2(((*wall).*read)(), name);
+            QCOMPARE(field("totalHeight")->text(), QString(height));
+        }
         QCheckBox* half = control<QCheckBox>("addHalfBlock");
-        half->click();
-        QVERIFY(wall->useHalfBlock());
-        QCOMPARE(field("totalHeight")->text(), QString("8' 8\""));
-        control<QCheckBox>("addExtenders")->click();
-        QVERIFY(wall->useExtenders());
-        QCOMPARE(field("totalHeight")->text(), QString("9' 0\""));
-        control<QCheckBox>("addCutBlock")->click();
-        QVERIFY(wall->useCutBlock());
-        control<QCheckBox>("addPravex")->click();
-        QVERIFY(wall->usePravex());
         half->click();
         QVERIFY(!wall->useHalfBlock());
 
