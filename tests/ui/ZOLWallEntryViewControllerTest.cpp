@@ -25,19 +25,11 @@ private slots:
     void cleanup() { screen.reset(); }
 
     void typingCleansTheFieldAndWritesTheWall() {
+        // The keystroke rule every entry field shares is pinned on the Tilt-Up tab. A letter
+        // typed in the middle leaves the cursor where it was.
         QLineEdit* length = field("wallLength");
-        // "1.2.3" is not a number as a whole, but only digits and full stops: kept, read as far
-        // as it goes.
-        const std::tuple<const char*, const char*, double> keystrokes[] = {
-            {"12a", "12", 12.0}, {"a", "0", 0.0}, {"1.2.3", "1.2.3", 1.2}};
-        for (const auto& [keys, shown, value] : keystrokes) {
-            type(length, keys);
-            QCOMPARE(length->text(), QString(shown));
-            QCOMPARE(wall->wallLength(), value);
-        }
-
-        // A letter typed in the middle leaves the cursor where it was.
         type(length, "125");
+        QCOMPARE(wall->wallLength(), 125.0);
         length->setCursorPosition(1);
         QTest::keyClick(length, Qt::Key_X);
         QCOMPARE(length->text(), QString("125"));
