@@ -10,15 +10,11 @@
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
 #include "ui/ZOLBlockInfoViewController.h"
-#include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLJobSummaryViewController.h"
-#include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
-#include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLSavedPricesBar.h"
-#include "ui/ZOLTiltEntryViewController.h"
 #include "ui/ZOLWallEntryViewController.h"
 #include "ui/ZOLWallInfoViewController.h"
 #include "ui/ZOLWorkbookSummaryViewController.h"
@@ -100,33 +96,25 @@ private slots:
                  QString("Wall Entry, Openings, Block Info, Wall Info, Workbook Summary, Concrete, "
                          "Rebar, Tilt-Up, Man-Hours, Job Summary"));
 
-        const auto sheet = document.workbook()->worksheets()[0];
+        QCOMPARE(screen<ZOLJobSummaryViewController>(document)->workbook(), document.workbook());
+
+        // Choosing a worksheet hands its records to every wall screen (the estimate tabs' are
+        // typed through and reopened in estimateTabsSaveAndReopen).
         auto* wallEntry = screen<ZOLWallEntryViewController>(document);
         auto* openings = screen<ZOLOpeningsEntryViewController>(document);
         auto* blockInfo = screen<ZOLBlockInfoViewController>(document);
         auto* wallInfo = screen<ZOLWallInfoViewController>(document);
-        QVERIFY(wallEntry && openings && blockInfo && wallInfo);
-        for (const auto& wall : {wallEntry->wallData(), openings->wallData(), blockInfo->wallData(),
-                                 wallInfo->wallData()})
-            QCOMPARE(wall, sheet->wallData());
-        QCOMPARE(openings->openingData(), sheet->openingData());
-        QCOMPARE(document.workbookSummary()->workbook(), document.workbook());
-        QCOMPARE(screen<ZOLConcreteEntryViewController>(document)->concreteData(),
-                 sheet->concreteData());
-        QCOMPARE(screen<ZOLRebarEntryViewController>(document)->rebarData(), sheet->rebarData());
-        QCOMPARE(screen<ZOLTiltEntryViewController>(document)->tiltData(), sheet->tiltData());
-        QCOMPARE(screen<ZOLManHoursEntryViewController>(document)->manHourData(),
-                 sheet->manHourData());
-        QCOMPARE(screen<ZOLJobSummaryViewController>(document)->workbook(), document.workbook());
-
-        // Choosing another worksheet hands its records to every screen.
+        const auto handed = [&](size_t index) {
+            const auto sheet = document.workbook()->worksheets()[index];
+            for (const auto& wall : {wallEntry->wallData(), openings->wallData(),
+                                     blockInfo->wallData(), wallInfo->wallData()})
+                QCOMPARE(wall, sheet->wallData());
+            QCOMPARE(openings->openingData(), sheet->openingData());
+        };
         add(document, "Garage");
-        const auto garage = document.workbook()->worksheets()[1];
-        QCOMPARE(wallEntry->wallData(), garage->wallData());
-        QCOMPARE(openings->openingData(), garage->openingData());
-        QCOMPARE(wallInfo->wallData(), garage->wallData());
+        handed(1);
         choose(document.worksheetSelection(), 0);
-        QCOMPARE(blockInfo->wallData(), sheet->wallData());
+        handed(0);
     }
 
     void addingWorksheetsChecksTheNameWithTheLongAlert() {
@@ -148,8 +136,7 @@ private slots:
         add(document, "Porch", 1);
         add(document, "");
         QCOMPARE(names(*document.workbook()), QString("Worksheet 1, Garage, "));
-        QCOMPARE(document.worksheetSelection()->currentIndex(), 2);
-        QCOMPARE(document.worksheetSelection()->count(), 3);
+        QCOMPARE(selector(document), QString("Worksheet 1, Garage,  showing "));
     }
 
     void renamingChecksOtherNamesOnly() {
@@ -351,13 +338,9 @@ private slots:
         }
         QVERIFY(readAll(path).contains("<WallLength>10.000000</WallLength>"));
 
-        // Don't Save leaves the file as it was saved.
+        // Undoing an edit by hand leaves nothing to ask about (Don't Save is
+        // autosaveWritesInPlaceAndDontSavePutsTheFileBack's).
         setLength(document, 20.0);
-        alerts->answer(1);
-        QVERIFY(document.canClose());
-        QVERIFY(readAll(path).contains("<WallLength>10.000000</WallLength>"));
-
-        // Undoing an edit by hand leaves nothing to ask about.
         setLength(document, 10.0);
         QVERIFY(!document.isDocumentEdited() && !document.isWindowModified());
     }
@@ -464,8 +447,7 @@ private slots:
     void selectingATabReloadsItsScreen() {
         ZOLDocument document;
         QTabWidget* tabs = document.tabView();
-        const int summaryTab = 4;
-        QCOMPARE(tabs->tabText(summaryTab), QString("Workbook Summary"));
+        const int summaryTab = 4; // Workbook Summary, as the new document lists the tabs
         auto* table = document.workbookSummary()->findChild<QTableWidget*>("summaryTable");
         QCOMPARE(table->rowCount(), 0);
 

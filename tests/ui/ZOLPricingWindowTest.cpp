@@ -22,20 +22,15 @@ private slots:
         QVERIFY(table->item(0, 1)->textAlignment() & Qt::AlignRight);
         QVERIFY(!(table->item(0, 0)->flags() & Qt::ItemIsEditable));
 
-        // Typing is cleaned as in every entry field; the price is the number it starts with.
-        const auto typePrice = [table](int row, const QString& keys) {
+        // Typing is cleaned as in every entry field (a lone minus is no number and goes); the
+        // price is the number it starts with.
+        const std::tuple<int, const char*, double, const char*> prices[] = {
+            {0, "12a.5", 12.5, "12.50"}, {40, "1.2.3", 1.2, "1.20"}, {1, "-3", 3.0, "3.00"}};
+        for (const auto& [row, keys, price, shown] : prices) {
             typeInCell(table, row, ZOLPricingWindowController::kPriceColumn, keys);
-        };
-        typePrice(0, "12a.5");
-        QCOMPARE(pricing->priceItems()[0]->price(), 12.5);
-        QCOMPARE(table->item(0, 1)->text(), QString("12.50"));
-        QCOMPARE(pricing->getPriceForItemType(0, 4), 12.5);
-        typePrice(40, "1.2.3");
-        QCOMPARE(pricing->priceItems()[40]->price(), 1.2);
-        QCOMPARE(table->item(40, 1)->text(), QString("1.20"));
-        // A lone minus is no number and is cleaned away, as in the entry fields.
-        typePrice(1, "-3");
-        QCOMPARE(pricing->priceItems()[1]->price(), 3.0);
+            QCOMPARE(pricing->priceItems()[row]->price(), price);
+            QCOMPARE(table->item(row, 1)->text(), QString(shown));
+        }
     }
 
     void linesThatALineAboveOverridesAreGreyed() {

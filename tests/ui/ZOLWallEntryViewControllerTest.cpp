@@ -20,28 +20,16 @@ class ZOLWallEntryViewControllerTest : public QObject {
 private slots:
     void init() {
         wall = std::make_shared<ZOLWall>();
-        screen = std::make_unique<ZOLWallEntryViewController>();
-        screen->setWallData(wall);
-        screen->loadValues();
-        screen->show();
-        QVERIFY(QTest::qWaitForWindowExposed(screen.get()));
+        screen = shownScreen<ZOLWallEntryViewController>([this](auto& s) { s.setWallData(wall); });
     }
     void cleanup() { screen.reset(); }
 
     void typingCleansTheFieldAndWritesTheWall() {
+        // The keystroke rule every entry field shares is pinned on the Tilt-Up tab. A letter
+        // typed in the middle leaves the cursor where it was.
         QLineEdit* length = field("wallLength");
-        // "1.2.3" is not a number as a whole, but only digits and full stops: kept, read as far
-        // as it goes.
-        const std::tuple<const char*, const char*, double> keystrokes[] = {
-            {"12a", "12", 12.0}, {"a", "0", 0.0}, {"1.2.3", "1.2.3", 1.2}};
-        for (const auto& [keys, shown, value] : keystrokes) {
-            type(length, keys);
-            QCOMPARE(length->text(), QString(shown));
-            QCOMPARE(wall->wallLength(), value);
-        }
-
-        // A letter typed in the middle leaves the cursor where it was.
         type(length, "125");
+        QCOMPARE(wall->wallLength(), 125.0);
         length->setCursorPosition(1);
         QTest::keyClick(length, Qt::Key_X);
         QCOMPARE(length->text(), QString("125"));
@@ -189,17 +177,18 @@ private slots:
     }
 
     void courseBoxesSetFlagsAndTotalHeight() {
+        // Each box ticked in turn, with the total height it leaves.
+        const std::tuple<const char*, bool (ZOLWall::*)() const, const char*> boxes[] = {
+            {"addHalfBlock", &ZOLWall::useHalfBlock, "8' 8\""},
+            {"addExtenders", &ZOLWall::useExtenders, "9' 0\""},
+            {"addCutBlock", &ZOLWall::useCutBlock, "9' 8\""},
+            {"addPravex", &ZOLWall::usePravex, "9' 8\""}};
+        for (const auto& [name, read, height] : boxes) {
+            control<QCheckBox>(name)->click();
+            QVERIFY2(((*wall).*read)(), name);
+            QCOMPARE(field("totalHeight")->text(), QString(height));
+        }
         QCheckBox* half = control<QCheckBox>("addHalfBlock");
-        half->click();
-        QVERIFY(wall->useHalfBlock());
-        QCOMPARE(field("totalHeight")->text(), QString("8' 8\""));
-        control<QCheckBox>("addExtenders")->click();
-        QVERIFY(wall->useExtenders());
-        QCOMPARE(field("totalHeight")->text(), QString("9' 0\""));
-        control<QCheckBox>("addCutBlock")->click();
-        QVERIFY(wall->useCutBlock());
-        control<QCheckBox>("addPravex")->click();
-        QVERIFY(wall->usePravex());
         half->click();
         QVERIFY(!wall->useHalfBlock());
 
