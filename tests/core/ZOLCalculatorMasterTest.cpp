@@ -1,4 +1,4 @@
-// Wall-height lists, feet-and-inches text, snapping, and the area/volume conversions.
+// Wall-height lists, feet-and-inches text and snapping.
 #include "calc/ZOLCalculatorMaster.h"
 #include "support/GoldenFile.h"
 
@@ -51,17 +51,4 @@ TEST(ZOLCalculatorMaster, SnappingFindsTheNearestEntryOrFallsToTheLast) {
         EXPECT_EQ(CM::convertWallHeightToFourInchCompatible(height), snapped) << height;
     for (const auto& [height, snapped] : {std::pair{50.0, 41.334}, {0.5, 41.334}, {8.1, 8.0}})
         EXPECT_EQ(CM::convertWallHeightToSixteenInchCompatible(height), snapped) << height;
-}
-
-TEST(ZOLCalculatorMaster, AreasVolumesAndUnits) {
-    EXPECT_DOUBLE_EQ(CM::calculateSqFtWithWidth(3, 4, false), 12.0);
-    EXPECT_DOUBLE_EQ(CM::calculateLFWidthWidth(36, 48, true), 14.0);
-    EXPECT_DOUBLE_EQ(CM::calculateLFWidthWidth(3, 4, false), 14.0);
-    EXPECT_DOUBLE_EQ(CM::calculateVolumeRectWithLength(2, 3, 4), 24.0);
-    EXPECT_DOUBLE_EQ(CM::calculateVolumeCylinderWithRadius(6, 120), 36 * 3.141592653589793 * 120);
-    EXPECT_DOUBLE_EQ(CM::convertCubicYardsToMeters(1.0), 0.76455485798);
-    EXPECT_NEAR(CM::convertCubicMetersToYards(CM::convertCubicYardsToMeters(5.0)), 5.0, 1e-12);
-    EXPECT_NEAR(CM::convertCubicInchesToYards(46656.0), 1.0, 1e-6);
-    EXPECT_NEAR(CM::convertCubicYardsToInches(CM::convertCubicInchesToYards(777.0)), 777.0, 1e-9);
-    EXPECT_NEAR(CM::convertCubicInchesToFeet(1728.0), 1.0, 1e-6);
 }
