@@ -11,8 +11,8 @@
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
-#include "platform/ZOLClock.h"
 #include "support/AlertRecorder.h"
+#include "support/ScopedClock.h"
 #include "support/ScopedTimeZone.h"
 
 #include <gtest/gtest.h>
@@ -108,12 +108,11 @@ TEST(ZOLWorkbookReader, TheSwitchesAreNotReadAndFieldsWithoutAnElementAreNotKept
 
     // An empty date is today, an unreadable one no date, a missing one the new workbook's: now.
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
-    ZOLClock::setSource([] { return kMay2; });
+    ScopedClock clock(kMay2);
     EXPECT_EQ(open(file("\t<ProjectDate></ProjectDate>\n"))->projectDate(), kMay2);
     EXPECT_EQ(open(file("\t<ProjectDate>last Tuesday</ProjectDate>\n" + kTail))->projectDate(),
               std::nullopt);
     EXPECT_EQ(open(file(""))->projectDate(), kMay2);
-    ZOLClock::setSource({});
     EXPECT_TRUE(alerts->alerts.empty());
 }
 

@@ -58,11 +58,7 @@ TEST(ZOLChangeOrder, OneLongerWallGivesThatFieldAndOnlyTheWallsConsequences) {
     // lengths until the user pulls the wall data into them.
     for (const auto& result : basement.results)
         EXPECT_EQ(result.record, "Wall") << result.name;
-
     // The part counts, weight and money against the two take-offs: see zolest diff's tests.
-    ASSERT_FALSE(basement.parts.empty());
-    EXPECT_EQ(basement.parts[0].name, "Straight Block");
-    EXPECT_GT(basement.parts[0].count.difference(), 0);
 }
 
 TEST(ZOLChangeOrder, AnAddedWindowIsAChangedRowAndTheWallsOpenings) {

@@ -1,5 +1,6 @@
-// The whole report: the page order the settings give, the openings pagination, the workbook
-// pages, and a golden copy of a full two-worksheet report pinned byte for byte.
+// The whole report: the worksheet a report picks, the openings pagination, the workbook pages,
+// and a golden copy of a full two-worksheet report pinned byte for byte. The fixed page order is
+// checked on zolest report.
 #include "model/ZOLConcrete.h"
 #include "model/ZOLCustomItem.h"
 #include "model/ZOLManHours.h"
@@ -139,13 +140,6 @@ TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocument) {
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {{"PrintEverything", true}}), blank);
 }
 
-TEST_F(ZOLPrintDataReport, HeaderNamesTheBackgroundInTheResourcesFolder) {
-    ZOLPrintData::setResourcesDirectory("/Applications/Zol Estimator/resources/");
-    EXPECT_THAT(ZOLPrintData::getHeaderHTML(),
-                HasSubstr("url('/Applications/Zol Estimator/resources/report/"
-                          "PrintingBackground.svg')"));
-}
-
 TEST_F(ZOLPrintDataReport, ProjectInformationFillsMissingTextsAndNamesTheWorksheet) {
     EXPECT_EQ(ZOLPrintData::getProjectInfoHTML(nullptr, "Lakeview", std::nullopt, std::nullopt,
                                                std::nullopt, kProjectDate),
@@ -156,14 +150,6 @@ TEST_F(ZOLPrintDataReport, ProjectInformationFillsMissingTextsAndNamesTheWorkshe
                                                std::nullopt),
               "<div>\n<p>Project: \tVersion: 3b<br />\nClient: Dana\tDistributor: North<br />\n"
               "Date: <br />\nWorksheet: Garage <east></p>\n</div>");
-}
-
-TEST_F(ZOLPrintDataReport, PagesComeInTheFixedOrder) {
-    auto workbook = workbookOf({"A", "B", "C"});
-    EXPECT_THAT(
-        pageClasses(ZOLPrintData::getHTMLWithWorkbook(
-            workbook, only({ZOLPrintSettings::kPrintWall, ZOLPrintSettings::kPrintSummary}))),
-        ElementsAre("wall", "wall", "wall", "wall-summary"));
 }
 
 TEST_F(ZOLPrintDataReport, OneWorksheetReportPicksTheIndexAndKeepsTheWholeWorkbookSummary) {
