@@ -28,7 +28,7 @@ bool shows(const std::string& out, const std::string& text) {
 }
 } // namespace
 
-TEST(ZolestCalcEngines, JsonAndTextOfEachCalculator) {
+TEST(ZOLCalcEnginesCommand, JsonAndTextOfEachCalculator) {
     const struct {
         const char* golden;
         std::vector<std::string> args;
@@ -59,7 +59,7 @@ TEST(ZolestCalcEngines, JsonAndTextOfEachCalculator) {
     }
 }
 
-TEST(ZolestCalcEngines, NamesAndValuesThatDoNotExistPrintAsNull) {
+TEST(ZOLCalcEnginesCommand, NamesAndValuesThatDoNotExistPrintAsNull) {
     const auto metric =
         runJson({"rebar", "--measurement", "1", "--wallLength", "100", "--verticalSpacing", "6",
                  "--dowelSize", "5", "--verticalSize", "0"});
@@ -72,7 +72,7 @@ TEST(ZolestCalcEngines, NamesAndValuesThatDoNotExistPrintAsNull) {
     EXPECT_EQ(broken["getWallHeightRating"], 9);
 }
 
-TEST(ZolestCalcEngines, BadInputExitsWithUsageError) {
+TEST(ZOLCalcEnginesCommand, BadInputExitsWithUsageError) {
     const std::vector<std::pair<std::vector<std::string>, const char*>> bad = {
         {{"calc", "rebar", "--barSize", "4"}, "--barSize"},
         {{"calc", "concrete", "--removeSqFtOpenings", "maybe"}, "--removeSqFtOpenings"},
@@ -92,7 +92,7 @@ TEST(ZolestCalcEngines, BadInputExitsWithUsageError) {
     }
 }
 
-TEST(ZolestCalcEngines, HelpListsTheCalculatorsAndExplainsUnits) {
+TEST(ZOLCalcEnginesCommand, HelpListsTheCalculatorsAndExplainsUnits) {
     EXPECT_TRUE(shows(runZolest({"--help"}).out, "calc"));
     const CliResult calc = runZolest({"calc", "--help"});
     EXPECT_EQ(calc.exitCode, 0);

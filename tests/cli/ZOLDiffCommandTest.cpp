@@ -24,7 +24,7 @@ double shownMoney(const nlohmann::json& takeoff) {
 
 } // namespace
 
-TEST(ZolestDiff, ExitCodesSayWhetherTheJobsDiffer) {
+TEST(ZOLDiffCommand, ExitCodesSayWhetherTheJobsDiffer) {
     TempFolder folder;
     const std::string changed = folder / "changed.zol";
     TempFolder::write(changed, longerBasement(sampleHouseText()));
@@ -50,7 +50,7 @@ TEST(ZolestDiff, ExitCodesSayWhetherTheJobsDiffer) {
     }
 }
 
-TEST(ZolestDiff, ALongerWallAndAWindowAgreeWithTheTwoTakeoffs) {
+TEST(ZOLDiffCommand, ALongerWallAndAWindowAgreeWithTheTwoTakeoffs) {
     TempFolder folder;
     const std::string changed = folder / "changed.zol";
     TempFolder::write(changed, longerBasement(basementWindowAdded(sampleHouseText())));

@@ -11,7 +11,7 @@ const std::string kPrices = std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp";
 
 } // namespace
 
-TEST(ZolestExport, WritesEachSpreadsheetToStdoutOrToTheNamedFile) {
+TEST(ZOLExportCommand, WritesEachSpreadsheetToStdoutOrToTheNamedFile) {
     const std::pair<const char*, const char*> kinds[] = {
         {"--order-list", "Worksheet,Part,Block Size,"},
         {"--workbook-summary", "Part,Quantity,Unit Price,"},
@@ -30,7 +30,7 @@ TEST(ZolestExport, WritesEachSpreadsheetToStdoutOrToTheNamedFile) {
     }
 }
 
-TEST(ZolestExport, RefusesAMissingOrDoubleChoiceAndAnUnreadableFile) {
+TEST(ZOLExportCommand, RefusesAMissingOrDoubleChoiceAndAnUnreadableFile) {
     EXPECT_EQ(runZolest({"export", kSample}).exitCode, 2);
     EXPECT_EQ(runZolest({"export", kSample, "--order-list", "--job-summary"}).exitCode, 2);
     const auto missing = runZolest({"export", "/nonexistent.zol", "--order-list"});

@@ -34,7 +34,7 @@ std::set<std::string> keys(const nlohmann::json& object) {
 
 } // namespace
 
-TEST(ZolestFiles, NewAndResaveWriteWhatTheApplicationSaves) {
+TEST(ZOLFileCommands, NewAndResaveWriteWhatTheApplicationSaves) {
     // The project date is written in the local time zone, which zolest takes from TZ.
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     TempFolder folder;
@@ -61,7 +61,7 @@ TEST(ZolestFiles, NewAndResaveWriteWhatTheApplicationSaves) {
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"again.zol", "job.zol", "resaved.zol"}));
 }
 
-TEST(ZolestFiles, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
+TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
     TempFolder folder;
     TempFolder::write(folder / "broken.zol", "<?xml version=\"1.0\"?>\n<Workbook>\n\t<Works");
     TempFolder::write(folder / "photo.zol", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
@@ -109,7 +109,7 @@ TEST(ZolestFiles, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
                                         "folder.zol", "photo.zol", "prices.zol"}));
 }
 
-TEST(ZolestFiles, ASaveThatFailsLeavesNothingBehind) {
+TEST(ZOLFileCommands, ASaveThatFailsLeavesNothingBehind) {
     TempFolder folder;
     const auto run = runZolest({"resave", kSample, "-o", folder / "no/such/folder/out.zol"});
     EXPECT_EQ(run.exitCode, 1);
@@ -121,7 +121,7 @@ TEST(ZolestFiles, ASaveThatFailsLeavesNothingBehind) {
     EXPECT_TRUE(std::filesystem::is_empty(folder / "taken.zol"));
 }
 
-TEST(ZolestFiles, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
+TEST(ZOLFileCommands, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
     const auto run = runZolest({"takeoff", kSample, "--json"});
     ASSERT_EQ(run.exitCode, 0) << run.err;
     EXPECT_EQ(run.err, "");
@@ -151,7 +151,7 @@ TEST(ZolestFiles, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
                                          "calculatorType", "visible"}));
 }
 
-TEST(ZolestFiles, PricesMoveAsThePriceWindowMovesThem) {
+TEST(ZOLFileCommands, PricesMoveAsThePriceWindowMovesThem) {
     // The shadowed workbook prices and the template's lines: see zolest report's tests.
     const auto text = runZolest({"takeoff", kSample, "--prices", kPrices, "--template", kTemplate});
     ASSERT_EQ(text.exitCode, 0) << text.err;

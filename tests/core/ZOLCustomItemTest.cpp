@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ZOLCustomItemTest, TemplateCodesFillTheLineWhichIsWrittenWithMarkupEscaped) {
+TEST(ZOLCustomItem, TemplateCodesFillTheLineWhichIsWrittenWithMarkupEscaped) {
     EXPECT_TRUE(ZOLCustomItem().visible());
     EXPECT_FALSE(ZOLCustomItem().tiedToWorkbook());
     const CodeTexts line = {{85, "2.5 loads"}, {86, "Loads"}, {87, "375.10"},

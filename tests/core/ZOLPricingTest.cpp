@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-TEST(ZOLPricingTest, ClipsSticksAndExtendersMatchAnySizeButPravexAndPelmoDoNot) {
+TEST(ZOLPricing, ClipsSticksAndExtendersMatchAnySizeButPravexAndPelmoDoNot) {
     ZOLPricing pricing;
     pricing.setPriceItems({std::make_shared<ZOLPriceItem>(8, 0, 23.40),
                            std::make_shared<ZOLPriceItem>(8, 10, 99.0), // no 8" radius block
@@ -24,7 +24,7 @@ TEST(ZOLPricingTest, ClipsSticksAndExtendersMatchAnySizeButPravexAndPelmoDoNot) 
     EXPECT_EQ(pricing.priceItems().size(), 6U);
 }
 
-TEST(ZOLPricingTest, LabelsAndReaderCodes) {
+TEST(ZOLPricing, LabelsAndReaderCodes) {
     EXPECT_EQ(ZOLPriceItem(6, 0, 0.0).getPartText(), "6\" Straight Block");
     EXPECT_EQ(ZOLPriceItem(12, 0.0).getPartText(), "4\" Extender");
     EXPECT_EQ(ZOLPriceItem(15, 0.0).getPartText(), "12\" Pravex");
@@ -38,7 +38,7 @@ TEST(ZOLPricingTest, LabelsAndReaderCodes) {
     EXPECT_EQ(item.partSize(), 8);
 }
 
-TEST(ZOLPricingTest, BothFileFormsWriteAccessoriesUnderTwelveAndTheDefaultListInOrder) {
+TEST(ZOLPricing, BothFileFormsWriteAccessoriesUnderTwelveAndTheDefaultListInOrder) {
     ZOLPricing pricing;
     pricing.setPriceItems({std::make_shared<ZOLPriceItem>(6, 9, 18.257),
                            std::make_shared<ZOLPriceItem>(8, 13, 0.09)});

@@ -50,7 +50,7 @@ std::vector<Line> linesOf(const ZOLWorkbook& workbook, const char* type) {
 // A house of four worksheets: two 8-inch walls, a 6-inch wall and an empty
 // 10-inch porch, priced from a distributor's list that has no calora-stick
 // item.
-class JobSummaryTest : public ::testing::Test {
+class ZOLSummaryItems : public ::testing::Test {
 protected:
     void SetUp() override {
         // The walls through their file codes (8 inches and 8 feet high unless said): North 100 ft
@@ -95,7 +95,7 @@ protected:
 
 } // namespace
 
-TEST_F(JobSummaryTest, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeInUse) {
+TEST_F(ZOLSummaryItems, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeInUse) {
     // The take-off the package is priced from: North 143 straight, 12 corners, 6
     // buck, 53 extenders, 500 clips, 465 sticks; South 68 straight, 12 angles,
     // 250 clips; Garage 31 straight, 250 clips.
@@ -123,7 +123,7 @@ TEST_F(JobSummaryTest, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeIn
         1807.0 + 3 * 250 * 0.09, 1e-9);
 }
 
-TEST_F(JobSummaryTest, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
+TEST_F(ZOLSummaryItems, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
     auto pricing = std::make_shared<ZOLPricing>();
     setPrice(*pricing, 11, 10, 4.80); // the 10" buck
     auto items = pricing->priceItems();
@@ -135,7 +135,7 @@ TEST_F(JobSummaryTest, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
     EXPECT_NEAR(line->cost(), 0.0 + 4.80 * (53 + 1000 + 465), 1e-9);
 }
 
-TEST_F(JobSummaryTest, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
+TEST_F(ZOLSummaryItems, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
     auto user = std::make_shared<ZOLCustomItem>();
     auto oldWall = tiedLine({{89, "Wall"}});
     workbook.setCustomItems({user, oldWall});
@@ -150,7 +150,7 @@ TEST_F(JobSummaryTest, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
     expectLine(workbook.customItems()[0], "Wall", "Zol Blocks Package", "Package", 0.0, 0.0, false);
 }
 
-TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden) {
+TEST_F(ZOLSummaryItems, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden) {
     // North: 220 feet of size 1 (two rows lapped 30") and 400 of size 3 (every 24"); South: 50
     // feet of size 3; Garage, metric: 80 feet of size 1 and 320 of size 4, past the metric list;
     // Porch: 10 feet of size 5, past the imperial list. Entered through the file's codes: 29 the
@@ -187,7 +187,7 @@ TEST_F(JobSummaryTest, RebarLinesNameTheStoredSizeAsTheListPositionThenEndHidden
     }
 }
 
-TEST_F(JobSummaryTest, ConcreteLinesPerUnitSystemAndPour) {
+TEST_F(ZOLSummaryItems, ConcreteLinesPerUnitSystemAndPour) {
     // Footings of 100 ft by 20" by 10" on North and, metric, on Garage; 100 ft of wall 6" thick
     // and 8 ft high on South (codes 11 the units, 12 to 14 the footing, 21 to 23 the wall).
     const CodeTexts footing = {{12, "20"}, {13, "100"}, {14, "10"}};
@@ -209,7 +209,7 @@ TEST_F(JobSummaryTest, ConcreteLinesPerUnitSystemAndPour) {
     EXPECT_EQ(linesOf(workbook, "Concrete")[0]->quantity(), 0.0);
 }
 
-TEST_F(JobSummaryTest, TiltAndManHourLinesAreUpdatedNotDuplicated) {
+TEST_F(ZOLSummaryItems, TiltAndManHourLinesAreUpdatedNotDuplicated) {
     // 100 by 10 ft of tilt-up (190 panels, 570 inserts); 2400 sq ft at $30 and 800 at $45.
     *sheet(0).tiltData() = readRecord<ZOLTilt>({{43, "10"}, {44, "100"}});
     *sheet(0).manHourData() = readRecord<ZOLManHours>({{70, "2400"}, {79, "30"}});
@@ -234,7 +234,7 @@ TEST_F(JobSummaryTest, TiltAndManHourLinesAreUpdatedNotDuplicated) {
     expectLine(tilt, "Tilt", "Quarto Tilt Parts", "Parts", 0.0, 1.15, false);
 }
 
-TEST(ZOLSummaryItemsTest, LabourRateAveragesWithoutDividingByNothing) {
+TEST_F(ZOLSummaryItems, LabourRateAveragesWithoutDividingByNothing) {
     // The line for two worksheets' labour, given each one's square feet and rate.
     auto summary = [](double sqft1, double cost1, double sqft2, double cost2) {
         std::vector<std::shared_ptr<ZOLManHours>> records;

@@ -21,7 +21,7 @@ std::vector<std::string> names(const ZOLWorkbook& workbook) {
 
 } // namespace
 
-TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorksheet) {
+TEST(ZOLWorkbook, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorksheet) {
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     ScopedClock clock(kMay2);
     ZOLWorkbook workbook;
@@ -44,7 +44,7 @@ TEST(ZOLWorkbookTest, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorkshee
     EXPECT_EQ(wall->wallLength(), 0.0);
 }
 
-TEST(ZOLWorkbookTest, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
+TEST(ZOLWorkbook, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
     ScopedAlertRecorder alerts;
     ZOLWorkbook workbook;
     workbook.addWorksheets({std::make_shared<ZOLWorksheet>("Worksheet 1"),
@@ -66,7 +66,7 @@ TEST(ZOLWorkbookTest, TakenNamesAreRefusedWithTheAlertOnAddAndRename) {
     EXPECT_EQ(alerts->alerts.size(), 4U);
 }
 
-TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
+TEST(ZOLWorkbook, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
     ZOLWorkbook workbook;
     // 100 ft of wall with 50 sq ft of openings; 50 ft with a half course, 8.667 ft high.
     *workbook.worksheets()[0]->wallData() = readRecord<ZOLWall>({{47, "100"}, {58, "50"}});
@@ -87,7 +87,7 @@ TEST(ZOLWorkbookTest, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
               std::string::npos);
 }
 
-TEST(ZOLWorkbookTest, ProjectTextsAreWrittenWithMarkupEscaped) {
+TEST(ZOLWorkbook, ProjectTextsAreWrittenWithMarkupEscaped) {
     ZOLWorkbook workbook;
     workbook.setProjectName(std::string("Smith & Sons <Lakeside>"));
     workbook.setClientName(std::nullopt);

@@ -8,7 +8,7 @@ constexpr int64_t kMay2 = 1399041000;           // 2014-05-02 14:30:00 UTC
 constexpr int64_t kNewYearsEveUtc = 1420081200; // 2015-01-01 03:00:00 UTC
 } // namespace
 
-TEST(ZOLDateFormatTest, DatesAreWrittenInLocalTimeWithTheZoneOffset) {
+TEST(ZOLDateFormat, DatesAreWrittenInLocalTimeWithTheZoneOffset) {
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     EXPECT_EQ(ZOLDateFormat::formatFileDate(kMay2), "2014-05-02T09:30:00-0500");
     // Standard time in winter, and the local calendar day rather than the UTC one.
@@ -19,7 +19,7 @@ TEST(ZOLDateFormatTest, DatesAreWrittenInLocalTimeWithTheZoneOffset) {
     EXPECT_EQ(ZOLDateFormat::formatFileDate(kMay2), "2014-05-02T20:00:00+0530");
 }
 
-TEST(ZOLDateFormatTest, ReadingTakesTheOffsetOfTheTextAndRejectsImpossibleDates) {
+TEST(ZOLDateFormat, ReadingTakesTheOffsetOfTheTextAndRejectsImpossibleDates) {
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     EXPECT_EQ(ZOLDateFormat::parseFileDate(ZOLDateFormat::formatFileDate(kNewYearsEveUtc)),
               kNewYearsEveUtc);
