@@ -186,17 +186,8 @@ TEST(ZOLWorkbookReader, GathersTextTheWayTheFilesHaveAlwaysBeenRead) {
     EXPECT_EQ(reader.loadedWorkbook()->projectName(), "A B");
 }
 
-TEST(ZOLWorkbookReader, LoadedPricesComeAfterTheDefaultsWhichWinEveryLookUp) {
-    ScopedAlertRecorder alerts;
-    auto pricing = open(file("<PricingData><PriceItems><PriceItem><PartSize>Eight</PartSize>"
-                             "<PartType>Straight</PartType><Price>4.75</Price></PriceItem>"
-                             "</PriceItems></PricingData>"))
-                       ->pricingData();
-    ASSERT_EQ(pricing->priceItems().size(), 45u);
-    EXPECT_DOUBLE_EQ(pricing->priceItems().back()->price(), 4.75);
-    EXPECT_DOUBLE_EQ(pricing->getPriceForItemType(0, 8), 0.0);
-}
-
+// The loaded prices behind the defaults, which win every look-up: see ZOLSaving and the
+// sample house.
 TEST(ZOLWorkbookReader, TextsItDoesNotKnowChangeNothingAndMissingElementsKeepDefaults) {
     ScopedAlertRecorder alerts;
     auto workbook =
