@@ -1,13 +1,13 @@
 // zolest report: the report of a workbook file as HTML, its options and its refusals.
 #include "support/CliRunner.h"
 #include "support/GoldenFile.h"
+#include "support/ReportPages.h"
 #include "support/TempFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <regex>
 #include <sys/wait.h>
 
 using ::testing::ElementsAre;
@@ -18,14 +18,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const std::string kSample = std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol";
-
-std::vector<std::string> pageClasses(const std::string& html) {
-    static const std::regex page("<div class=\"page\">\n<div class=\"content ([a-z-]+)\">");
-    std::vector<std::string> classes;
-    for (std::sregex_iterator it(html.begin(), html.end(), page), end; it != end; ++it)
-        classes.push_back((*it)[1]);
-    return classes;
-}
 
 class ZOLReportCommand : public ::testing::Test {
 protected:

@@ -16,6 +16,7 @@
 #include "report/ZOLPrintData.h"
 #include "report/ZOLPrintSettings.h"
 #include "support/GoldenFile.h"
+#include "support/ReportPages.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -67,15 +68,6 @@ protected:
         for (const char* key : ZOLPrintSettings::keys())
             settings[key] = true;
         return settings;
-    }
-
-    // The page class of every page, in order ("wall", "openings", "wall-summary", ...).
-    static std::vector<std::string> pageClasses(const std::string& html) {
-        static const std::regex page("<div class=\"page\">\n<div class=\"content ([a-z-]+)\">");
-        std::vector<std::string> classes;
-        for (std::sregex_iterator it(html.begin(), html.end(), page), end; it != end; ++it)
-            classes.push_back((*it)[1]);
-        return classes;
     }
 
     static void setOpenings(const std::shared_ptr<ZOLWorksheet>& worksheet, int count) {
