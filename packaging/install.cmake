@@ -18,8 +18,12 @@ set_source_files_properties(src/cli/main.cpp PROPERTIES COMPILE_DEFINITIONS
     "ZOL_VERSION=\"${PROJECT_VERSION}\"")
 
 install(TARGETS zolest RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(DIRECTORY ${CMAKE_SOURCE_DIR}/resources/report ${CMAKE_SOURCE_DIR}/resources/guide
-    DESTINATION ${ZOL_DATA_DIR}/resources)
+# The same files the build copies beside its programs (ZOL_RUNTIME_RESOURCES).
+foreach(resource IN LISTS ZOL_RUNTIME_RESOURCES)
+    get_filename_component(folder ${resource} DIRECTORY)
+    install(FILES ${CMAKE_SOURCE_DIR}/resources/${resource}
+        DESTINATION ${ZOL_DATA_DIR}/resources/${folder})
+endforeach()
 install(FILES ${CMAKE_SOURCE_DIR}/packaging/zolest.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 if(TARGET zol-estimator)
@@ -38,15 +42,17 @@ if(TARGET zol-estimator)
 endif()
 
 # The desktop entry and the metainfo pass their validators (when these are installed).
-find_program(ZOL_DESKTOP_FILE_VALIDATE desktop-file-validate)
-find_program(ZOL_APPSTREAMCLI appstreamcli)
-if(ZOL_DESKTOP_FILE_VALIDATE)
-    add_test(NAME desktop_entry_valid COMMAND ${ZOL_DESKTOP_FILE_VALIDATE}
-        ${CMAKE_SOURCE_DIR}/packaging/${ZOL_APP_ID}.desktop)
-endif()
-if(ZOL_APPSTREAMCLI)
-    add_test(NAME metainfo_valid COMMAND ${ZOL_APPSTREAMCLI} validate --no-net --pedantic
-        ${CMAKE_SOURCE_DIR}/packaging/${ZOL_APP_ID}.metainfo.xml)
+if(BUILD_TESTING)
+    find_program(ZOL_DESKTOP_FILE_VALIDATE desktop-file-validate)
+    find_program(ZOL_APPSTREAMCLI appstreamcli)
+    if(ZOL_DESKTOP_FILE_VALIDATE)
+        add_test(NAME desktop_entry_valid COMMAND ${ZOL_DESKTOP_FILE_VALIDATE}
+            ${CMAKE_SOURCE_DIR}/packaging/${ZOL_APP_ID}.desktop)
+    endif()
+    if(ZOL_APPSTREAMCLI)
+        add_test(NAME metainfo_valid COMMAND ${ZOL_APPSTREAMCLI} validate --no-net --pedantic
+            ${CMAKE_SOURCE_DIR}/packaging/${ZOL_APP_ID}.metainfo.xml)
+    endif()
 endif()
 
 set(CPACK_GENERATOR DEB)

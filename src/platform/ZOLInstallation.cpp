@@ -3,9 +3,6 @@
 #include <filesystem>
 #include <unistd.h>
 
-#ifndef ZOL_RESOURCES_DIR
-#define ZOL_RESOURCES_DIR "resources"
-#endif
 // Paths from the installed bin/ folder; the build sets them from its install layout.
 #ifndef ZOL_INSTALLED_RESOURCES
 #define ZOL_INSTALLED_RESOURCES "../share/zol-estimator/resources"
@@ -24,16 +21,19 @@ std::string ZOLInstallation::executableDirectory() {
 
 std::string ZOLInstallation::resourcesDirectory() {
     const std::string here = executableDirectory();
-    if (!here.empty()) {
-        // zolest-render runs from libexec/zol-estimator/, one level deeper than bin/.
-        for (const fs::path& base : {fs::path(here), fs::path(here).parent_path()}) {
+    if (here.empty())
+        return "resources";
+    // An installed copy keeps them under share/, a build folder in resources/ beside the
+    // programs. zolest-render runs from libexec/zol-estimator/, one level deeper than bin/, and
+    // benchmarks and window tests from a folder below the build folder's programs.
+    for (const fs::path& base : {fs::path(here), fs::path(here).parent_path()})
+        for (const fs::path& candidate :
+             {(base / ZOL_INSTALLED_RESOURCES).lexically_normal(), base / "resources"}) {
             std::error_code error;
-            const fs::path installed = (base / ZOL_INSTALLED_RESOURCES).lexically_normal();
-            if (fs::is_directory(installed / "report", error))
-                return installed.string();
+            if (fs::is_directory(candidate / "report", error))
+                return candidate.string();
         }
-    }
-    return ZOL_RESOURCES_DIR;
+    return (fs::path(here) / "resources").string();
 }
 
 std::string ZOLInstallation::helperPath(const std::string& name) {

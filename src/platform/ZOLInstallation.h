@@ -1,9 +1,9 @@
 #pragma once
 #include <string>
 
-// Where the program's own files are. An installed copy finds them relative to the running
-// executable (bin/ beside share/zol-estimator/ and libexec/zol-estimator/, wherever the prefix
-// is); a program run from its build folder falls back to the source tree it was built from.
+// Where the program's own files are, always relative to the running executable: an installed
+// copy has bin/ beside share/zol-estimator/ and libexec/zol-estimator/, wherever the prefix is;
+// the build folder has the programs with their resources/ folder beside them.
 class ZOLInstallation {
 public:
     ZOLInstallation() = delete;

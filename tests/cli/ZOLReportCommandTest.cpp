@@ -32,9 +32,9 @@ TEST_F(ZOLReportCommand, SampleJobReportMatchesTheGoldenCopy) {
     // Every section of every worksheet, on stdout and in a file alike.
     const CliResult out = runZolest({"report", kSample});
     ASSERT_EQ(out.exitCode, 0) << out.err;
-    // The background lies in this checkout's resources folder, wherever it was cloned: the
-    // golden copy has a placeholder there.
-    const std::string resources = std::string(ZOL_SOURCE_DIR) + "/resources";
+    // The background lies in the resources folder beside this build's zolest, wherever it was
+    // built: the golden copy has a placeholder there.
+    const std::string resources = (fs::canonical(ZOLEST_PATH).parent_path() / "resources").string();
     const std::string placeholder = "@RESOURCES@";
     if (std::getenv("ZOL_UPDATE_GOLDEN")) {
         std::string update = out.out;
