@@ -3,6 +3,7 @@
 
 #include <memory>
 
+class ZOLBlockInfoTableModel;
 class ZOLWall;
 namespace Ui {
 class ZOLBlockInfoViewController;
@@ -22,19 +23,14 @@ public:
 
     void loadValues();
 
-    // One row per part type, radius blocks and accessories included.
-    static constexpr int kRowCount = 17;
-    // The column identifiers of the part table, in column order.
-    static QString columnIdentifier(int column);
-
 signals:
     // The waste allowance was changed.
     void edited();
 
 private:
     void comboBoxSelectionDidChange(int index);
-    QString cellText(int row, const QString& identifier) const;
 
     std::unique_ptr<Ui::ZOLBlockInfoViewController> ui_;
+    ZOLBlockInfoTableModel* partModel_;
     std::shared_ptr<ZOLWall> wallData_;
 };

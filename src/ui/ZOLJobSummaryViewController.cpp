@@ -9,45 +9,16 @@
 #include "ui/ZOLCustomItemForm.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLInfoPopup.h"
+#include "ui/ZOLJobSummaryTableModel.h"
 #include "ui/ZOLTabToggle.h"
 
 #include <QHeaderView>
-#include <QLocale>
-#include <QTableWidgetItem>
 
 namespace {
 // Image indexes of the three information buttons.
 constexpr int32_t kCustomItemInfo = 28;
 constexpr int32_t kAdjustTabInfo = 29;
 constexpr int32_t kTemplateInfo = 30;
-
-enum Column { kName, kQuantity, kUnit, kUnitPrice, kTotalCost };
-
-QString qs(const std::optional<std::string>& text) {
-    return text ? QString::fromStdString(*text) : QString();
-}
-
-// Prices are in dollars wherever the program runs, as on the printed pages.
-const QLocale& dollars() {
-    static const QLocale locale(QLocale::English, QLocale::UnitedStates);
-    return locale;
-}
-
-QString money(double value) {
-    return dollars().toCurrencyString(value, QStringLiteral("$"), 2);
-}
-
-// Quantities and areas with at most two decimals: 1, 1.5, 12.25.
-QString decimal(double value, bool trimZeros) {
-    QString text = dollars().toString(value, 'f', 2);
-    if (trimZeros) {
-        while (text.endsWith(u'0'))
-            text.chop(1);
-        if (text.endsWith(u'.'))
-            text.chop(1);
-    }
-    return text;
-}
 
 std::vector<std::shared_ptr<ZOLCustomItem>> visibleLines(const ZOLWorkbook& workbook) {
     std::vector<std::shared_ptr<ZOLCustomItem>> lines;
@@ -59,21 +30,20 @@ std::vector<std::shared_ptr<ZOLCustomItem>> visibleLines(const ZOLWorkbook& work
 } // namespace
 
 ZOLJobSummaryViewController::ZOLJobSummaryViewController(QWidget* parent)
-    : QWidget(parent), ui_(std::make_unique<Ui::ZOLJobSummaryViewController>()) {
+    : QWidget(parent), ui_(std::make_unique<Ui::ZOLJobSummaryViewController>()),
+      linesModel_(new ZOLJobSummaryTableModel(this)) {
     ui_->setupUi(this);
-    QTableWidget* table = ui_->summaryTable;
+    QTableView* table = ui_->summaryTable;
+    table->setModel(linesModel_);
     QHeaderView* header = table->horizontalHeader();
-    header->setSectionResizeMode(kName, QHeaderView::Stretch);
+    header->setSectionResizeMode(ZOLJobSummaryTableModel::Name, QHeaderView::Stretch);
     header->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     header->setMinimumSectionSize(fontMetrics().horizontalAdvance(QStringLiteral("$000,000.00")) +
                                   24);
     table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
-    for (int column : {kQuantity, kUnit, kUnitPrice, kTotalCost}) {
+    for (int column : {ZOLJobSummaryTableModel::Quantity, ZOLJobSummaryTableModel::Unit,
+                       ZOLJobSummaryTableModel::UnitPrice, ZOLJobSummaryTableModel::TotalCost})
         header->setSectionResizeMode(column, QHeaderView::ResizeToContents);
-        if (column != kUnit)
-            if (QTableWidgetItem* item = table->horizontalHeaderItem(column))
-                item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
 
     connect(ui_->addCustomItem, &QPushButton::clicked, this,
             &ZOLJobSummaryViewController::createCustomItem);
@@ -81,10 +51,9 @@ ZOLJobSummaryViewController::ZOLJobSummaryViewController(QWidget* parent)
             &ZOLJobSummaryViewController::editCustomItem);
     connect(ui_->deleteItem, &QPushButton::clicked, this,
             &ZOLJobSummaryViewController::deleteCustomItem);
-    connect(table, &QTableWidget::cellDoubleClicked, this,
-            &ZOLJobSummaryViewController::editCustomItem);
-    connect(table, &QTableWidget::itemSelectionChanged, this, [this] {
-        const bool selected = !ui_->summaryTable->selectedItems().isEmpty();
+    connect(table, &QTableView::doubleClicked, this, &ZOLJobSummaryViewController::editCustomItem);
+    connect(table->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        const bool selected = ui_->summaryTable->selectionModel()->hasSelection();
         ui_->editItem->setEnabled(selected);
         ui_->deleteItem->setEnabled(selected);
     });
@@ -112,37 +81,21 @@ void ZOLJobSummaryViewController::setWorkbook(std::shared_ptr<ZOLWorkbook> workb
 }
 
 void ZOLJobSummaryViewController::loadValues() {
-    QTableWidget* table = ui_->summaryTable;
-    const int selectedRow = table->selectedItems().isEmpty() ? -1 : table->currentRow();
-    customItems_.clear();
+    QTableView* table = ui_->summaryTable;
+    const int selectedRow =
+        table->selectionModel()->hasSelection() ? table->currentIndex().row() : -1;
+    std::vector<std::shared_ptr<ZOLCustomItem>> lines;
     if (workbook_) {
         workbook_->generateCustomItems();
-        customItems_ = visibleLines(*workbook_);
+        lines = visibleLines(*workbook_);
         const QSignalBlocker blocker(ui_->roundToFullBundles);
         ui_->roundToFullBundles->setChecked(workbook_->roundToFullBundles());
     }
 
     table->clearSelection();
-    table->setRowCount(static_cast<int>(customItems_.size()));
-    auto cell = [table](int row, int column, const QString& text) {
-        auto* item = new QTableWidgetItem(text);
-        item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-        item->setTextAlignment(column == kName || column == kUnit
-                                   ? Qt::AlignLeft | Qt::AlignVCenter
-                                   : Qt::AlignRight | Qt::AlignVCenter);
-        table->setItem(row, column, item);
-    };
-    for (size_t i = 0; i < customItems_.size(); ++i) {
-        const ZOLCustomItem& line = *customItems_[i];
-        const int row = static_cast<int>(i);
-        cell(row, kName, qs(line.name()));
-        cell(row, kQuantity, decimal(line.quantity(), true));
-        cell(row, kUnit, qs(line.unit()));
-        cell(row, kUnitPrice, money(line.cost()));
-        cell(row, kTotalCost, money(line.quantity() * line.cost()));
-    }
+    linesModel_->showLines(std::move(lines));
     // The row the user worked on stays selected while it is there.
-    if (selectedRow >= 0 && selectedRow < table->rowCount())
+    if (selectedRow >= 0 && selectedRow < linesModel_->rowCount())
         table->selectRow(selectedRow);
     updateTotals();
 }
@@ -158,17 +111,19 @@ void ZOLJobSummaryViewController::updateTotals() {
     for (const auto& item : workbook_->customItems())
         if (item)
             total += item->cost() * item->quantity();
-    ui_->totalCost->setText(money(total));
-    ui_->grossSqFt->setText(decimal(workbook_->getTotalGrossSquareFeet(), false));
-    ui_->netSqFt->setText(decimal(workbook_->getTotalNetSquareFeet(), false));
+    ui_->totalCost->setText(ZOLJobSummaryTableModel::money(total));
+    ui_->grossSqFt->setText(
+        ZOLJobSummaryTableModel::decimal(workbook_->getTotalGrossSquareFeet(), false));
+    ui_->netSqFt->setText(
+        ZOLJobSummaryTableModel::decimal(workbook_->getTotalNetSquareFeet(), false));
 }
 
 std::shared_ptr<ZOLCustomItem> ZOLJobSummaryViewController::selectedLine() const {
-    const QTableWidget* table = ui_->summaryTable;
-    if (!workbook_ || table->selectedItems().isEmpty())
+    const QTableView* table = ui_->summaryTable;
+    if (!workbook_ || !table->selectionModel()->hasSelection())
         return nullptr;
     const auto lines = visibleLines(*workbook_);
-    const int row = table->currentRow();
+    const int row = table->currentIndex().row();
     if (row < 0 || static_cast<size_t>(row) >= lines.size())
         return nullptr;
     return lines[static_cast<size_t>(row)];

@@ -7,6 +7,7 @@
 
 class QString;
 class ZOLCustomItem;
+class ZOLJobSummaryTableModel;
 class ZOLWorkbook;
 namespace Ui {
 class ZOLJobSummaryViewController;
@@ -54,9 +55,9 @@ private:
     void roundToFullBundlesChanged(bool checked);
 
     std::unique_ptr<Ui::ZOLJobSummaryViewController> ui_;
-    std::shared_ptr<ZOLWorkbook> workbook_;
     // The lines the table shows, row by row.
-    std::vector<std::shared_ptr<ZOLCustomItem>> customItems_;
+    ZOLJobSummaryTableModel* linesModel_;
+    std::shared_ptr<ZOLWorkbook> workbook_;
     // The line being edited or deleted; none while a new line is made.
     std::shared_ptr<ZOLCustomItem> currentlyEditingItem_;
 };

@@ -3,8 +3,8 @@
 
 #include <memory>
 
-class QTableWidgetItem;
 class ZOLOpenings;
+class ZOLOpeningsTableModel;
 class ZOLWall;
 namespace Ui {
 class ZOLOpeningsEntryViewController;
@@ -32,19 +32,13 @@ public:
     void removeOpening();
     void sendOpeningDataToWall();
 
-    // The column identifiers of the table, in column order.
-    static QString columnIdentifier(int column);
-
 signals:
     // The screen changed the openings list or the wall record.
     void edited();
 
 private:
-    int numberOfRows() const;
-    QString cellText(int row, const QString& identifier) const;
-    void cellEdited(QTableWidgetItem* item);
-
     std::unique_ptr<Ui::ZOLOpeningsEntryViewController> ui_;
+    ZOLOpeningsTableModel* openingsModel_;
     std::shared_ptr<ZOLOpenings> openingData_;
     std::shared_ptr<ZOLWall> wallData_;
 };

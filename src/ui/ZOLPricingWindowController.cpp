@@ -1,19 +1,16 @@
 #include "ui/ZOLPricingWindowController.h"
 
 #include "io/ZOLFileSaver.h"
-#include "io/ZOLFormat.h"
 #include "io/ZOLPriceFileReader.h"
 #include "io/ZOLText.h"
-#include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLPriceTableModel.h"
 #include "ui_ZOLPricing.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
-
-#include <optional>
 
 namespace {
 QString qs(const std::string& text) {
@@ -38,36 +35,23 @@ public:
         return edit;
     }
 };
-// The earlier line of the list that answers the look-ups of `items[index]` first, if any: a
-// workbook file's prices come after the list every workbook starts with, so after reopening a
-// priced workbook its prices sit below lines of the same parts.
-std::optional<size_t> shadowedBy(const std::vector<std::shared_ptr<ZOLPriceItem>>& items,
-                                 size_t index) {
-    const auto& item = items[index];
-    for (size_t earlier = 0; earlier < index; ++earlier)
-        if (items[earlier] &&
-            ZOLPricing::itemAnswers(*items[earlier], item->partType(), item->partSize()))
-            return earlier;
-    return std::nullopt;
-}
 } // namespace
 
 ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricing> pricingData,
                                                        QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::ZOLPricing>()),
-      pricingData_(std::move(pricingData)) {
+      pricingData_(std::move(pricingData)), priceModel_(new ZOLPriceTableModel(this)) {
     ui_->setupUi(this);
+    priceModel_->setPricingData(pricingData_);
+    ui_->priceTable->setModel(priceModel_);
     QHeaderView* header = ui_->priceTable->horizontalHeader();
-    header->setSectionResizeMode(kPartColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(kPriceColumn, QHeaderView::Fixed);
-    header->resizeSection(kPriceColumn, 120);
-    if (QTableWidgetItem* item = ui_->priceTable->horizontalHeaderItem(kPriceColumn))
-        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    ui_->priceTable->setItemDelegateForColumn(kPriceColumn, new PriceDelegate(ui_->priceTable));
+    header->setSectionResizeMode(ZOLPriceTableModel::Part, QHeaderView::Stretch);
+    header->setSectionResizeMode(ZOLPriceTableModel::Price, QHeaderView::Fixed);
+    header->resizeSection(ZOLPriceTableModel::Price, 120);
+    ui_->priceTable->setItemDelegateForColumn(ZOLPriceTableModel::Price,
+                                              new PriceDelegate(ui_->priceTable));
     ui_->priceTable->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
 
-    connect(ui_->priceTable, &QTableWidget::itemChanged, this,
-            &ZOLPricingWindowController::priceEdited);
     connect(ui_->openPricing, &QPushButton::clicked, this,
             &ZOLPricingWindowController::openPricing);
     connect(ui_->savePricing, &QPushButton::clicked, this,
@@ -77,57 +61,14 @@ ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricin
     connect(ui_->done, &QPushButton::clicked, this, &QDialog::accept);
     loadData();
     // Typing on an opened window goes into the first price.
-    ui_->priceTable->setCurrentCell(0, kPriceColumn);
+    ui_->priceTable->setCurrentIndex(priceModel_->index(0, ZOLPriceTableModel::Price));
 }
 
 ZOLPricingWindowController::~ZOLPricingWindowController() = default;
 
 void ZOLPricingWindowController::loadData() {
-    loading_ = true;
-    QTableWidget* table = ui_->priceTable;
-    const auto& items =
-        pricingData_ ? pricingData_->priceItems() : std::vector<std::shared_ptr<ZOLPriceItem>>{};
-    table->setRowCount(static_cast<int>(items.size()));
-    for (size_t i = 0; i < items.size(); ++i) {
-        const int row = static_cast<int>(i);
-        auto* part = new QTableWidgetItem(qs(items[i]->getPartText()));
-        part->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-        table->setItem(row, kPartColumn, part);
-        auto* price = new QTableWidgetItem(qs(ZOLFormat::format("%.2f", items[i]->price())));
-        price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsEditable);
-        price->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        table->setItem(row, kPriceColumn, price);
-        // A line that a line above overrides would take a price and change nothing: it is
-        // shown greyed and cannot be edited, and says which line sets the price.
-        if (const auto by = shadowedBy(items, i)) {
-            price->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-            const QString tip = tr("Not used: line %1 (%2) sets the price of this part.")
-                                    .arg(*by + 1)
-                                    .arg(qs(items[*by]->getPartText()));
-            for (QTableWidgetItem* cell : {part, price}) {
-                cell->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
-                cell->setToolTip(tip);
-            }
-        }
-    }
+    priceModel_->reload(palette().brush(QPalette::Disabled, QPalette::Text));
     ui_->useSavedPrices->setEnabled(pricingData_ && !pricingData_->savedItems().empty());
-    loading_ = false;
-}
-
-void ZOLPricingWindowController::priceEdited(QTableWidgetItem* item) {
-    if (loading_ || !pricingData_ || item->column() != kPriceColumn)
-        return;
-    const auto& items = pricingData_->priceItems();
-    const auto row = static_cast<size_t>(item->row());
-    if (row >= items.size())
-        return;
-    const std::string text = item->text().toStdString();
-    // An emptied cell keeps the price it had.
-    if (!text.empty())
-        items[row]->setPrice(ZOLText::leadingDouble(text));
-    loading_ = true;
-    item->setText(qs(ZOLFormat::format("%.2f", items[row]->price())));
-    loading_ = false;
 }
 
 void ZOLPricingWindowController::openPricing() {

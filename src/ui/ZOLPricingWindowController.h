@@ -3,8 +3,8 @@
 
 #include <memory>
 
+class ZOLPriceTableModel;
 class ZOLPricing;
-class QTableWidgetItem;
 namespace Ui {
 class ZOLPricing;
 }
@@ -33,13 +33,8 @@ public:
     // Makes the prices the workbook was saved with the whole list (see ZOLPricing).
     void useSavedPrices();
 
-    static constexpr int kPartColumn = 0;
-    static constexpr int kPriceColumn = 1;
-
 private:
-    void priceEdited(QTableWidgetItem* item);
-
     std::unique_ptr<Ui::ZOLPricing> ui_;
     std::shared_ptr<ZOLPricing> pricingData_;
-    bool loading_ = false;
+    ZOLPriceTableModel* priceModel_;
 };

@@ -9,6 +9,7 @@
 #include <vector>
 
 class ZOLWorkbook;
+class ZOLWorkbookSummaryTableModel;
 namespace Ui {
 class ZOLWorkbookSummaryViewController;
 }
@@ -41,5 +42,6 @@ signals:
 
 private:
     std::unique_ptr<Ui::ZOLWorkbookSummaryViewController> ui_;
+    ZOLWorkbookSummaryTableModel* summaryModel_;
     std::shared_ptr<ZOLWorkbook> workbook_;
 };

@@ -97,10 +97,28 @@ inline void choose(QComboBox* combo, int index) {
     emit combo->activated(index);
 }
 
+// What a table cell holds in `role`, as the view paints it.
+inline QVariant cellData(const QTableView* table, int row, int column, int role = Qt::DisplayRole) {
+    return table->model()->index(row, column).data(role);
+}
+
+inline QString cellText(const QTableView* table, int row, int column) {
+    return cellData(table, row, column).toString();
+}
+
+inline Qt::ItemFlags cellFlags(const QTableView* table, int row, int column) {
+    return table->model()->flags(table->model()->index(row, column));
+}
+
+inline int rowCount(const QTableView* table) {
+    return table->model()->rowCount();
+}
+
 // Edits a table cell as a user does: open the editor, type, press Return.
-inline void typeInCell(QTableWidget* table, int row, int column, const QString& keys) {
-    table->setCurrentCell(row, column);
-    table->editItem(table->item(row, column));
+inline void typeInCell(QTableView* table, int row, int column, const QString& keys) {
+    const QModelIndex cell = table->model()->index(row, column);
+    table->setCurrentIndex(cell);
+    table->edit(cell);
     QLineEdit* editor = nullptr;
     for (auto* candidate : table->viewport()->findChildren<QLineEdit*>())
         if (candidate->isVisible())
@@ -110,6 +128,15 @@ inline void typeInCell(QTableWidget* table, int row, int column, const QString& 
     QTest::keyClicks(editor, keys);
     QTest::keyClick(editor, Qt::Key_Return);
     QCoreApplication::processEvents(); // the table commits the edit from its event queue
+}
+
+inline Qt::CheckState cellCheckState(const QTableView* table, int row, int column) {
+    return static_cast<Qt::CheckState>(cellData(table, row, column, Qt::CheckStateRole).toInt());
+}
+
+// Ticks or clears a table cell's box as a click on it does.
+inline void setCellCheckState(QTableView* table, int row, int column, Qt::CheckState state) {
+    table->model()->setData(table->model()->index(row, column), state, Qt::CheckStateRole);
 }
 
 // The number of sheets pdfinfo counts in a PDF file; -1 when it cannot tell.

@@ -2,6 +2,7 @@
 // their alerts.
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
+#include "ui/ZOLPriceTableModel.h"
 #include "ui/ZOLPricingWindowController.h"
 
 #include "UiTestSupport.h"
@@ -14,22 +15,22 @@ private slots:
         auto pricing = std::make_shared<ZOLPricing>();
         ZOLPricingWindowController window(pricing);
         window.show();
-        auto* table = window.findChild<QTableWidget*>("priceTable");
-        QCOMPARE(table->rowCount(), 44);
-        QCOMPARE(table->item(0, 0)->text(), QString("4\" Straight Block"));
-        QCOMPARE(table->item(43, 0)->text(), QString("12\" pelmo"));
-        QCOMPARE(table->item(0, 1)->text(), QString("0.00"));
-        QVERIFY(table->item(0, 1)->textAlignment() & Qt::AlignRight);
-        QVERIFY(!(table->item(0, 0)->flags() & Qt::ItemIsEditable));
+        auto* table = window.findChild<QTableView*>("priceTable");
+        QCOMPARE(rowCount(table), 44);
+        QCOMPARE(cellText(table, 0, 0), QString("4\" Straight Block"));
+        QCOMPARE(cellText(table, 43, 0), QString("12\" pelmo"));
+        QCOMPARE(cellText(table, 0, 1), QString("0.00"));
+        QVERIFY(cellData(table, 0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+        QVERIFY(!(cellFlags(table, 0, 0) & Qt::ItemIsEditable));
 
         // Typing is cleaned as in every entry field (a lone minus is no number and goes); the
         // price is the number it starts with.
         const std::tuple<int, const char*, double, const char*> prices[] = {
             {0, "12a.5", 12.5, "12.50"}, {40, "1.2.3", 1.2, "1.20"}, {1, "-3", 3.0, "3.00"}};
         for (const auto& [row, keys, price, shown] : prices) {
-            typeInCell(table, row, ZOLPricingWindowController::kPriceColumn, keys);
+            typeInCell(table, row, ZOLPriceTableModel::Price, keys);
             QCOMPARE(pricing->priceItems()[row]->price(), price);
-            QCOMPARE(table->item(row, 1)->text(), QString(shown));
+            QCOMPARE(cellText(table, row, 1), QString(shown));
         }
     }
 
@@ -40,23 +41,23 @@ private slots:
         pricing->addPriceItem(std::make_shared<ZOLPriceItem>(4, 13, 0.09)); // clips: any size
         pricing->addPriceItem(std::make_shared<ZOLPriceItem>(8, 10, 5.0));  // no 8" radius above
         ZOLPricingWindowController window(pricing);
-        auto* table = window.findChild<QTableWidget*>("priceTable");
+        auto* table = window.findChild<QTableView*>("priceTable");
         QStringList marked;
-        for (int row = 0; row < table->rowCount(); ++row)
-            if (!table->item(row, 1)->toolTip().isEmpty()) {
-                marked << table->item(row, 0)->text();
+        for (int row = 0; row < rowCount(table); ++row)
+            if (!cellData(table, row, 1, Qt::ToolTipRole).toString().isEmpty()) {
+                marked << cellText(table, row, 0);
                 // An edit there would change no price: the cell cannot be edited.
-                QVERIFY(!(table->item(row, 1)->flags() & Qt::ItemIsEditable));
+                QVERIFY(!(cellFlags(table, row, 1) & Qt::ItemIsEditable));
             }
         QCOMPARE(marked, QStringList({"8\" Straight Block", "Zol Block HV Clips"}));
-        QCOMPARE(table->item(44, 1)->toolTip(),
+        QCOMPARE(cellData(table, 44, 1, Qt::ToolTipRole).toString(),
                  QString("Not used: line 17 (8\" Straight Block) sets the price of this part."));
 
         // The saved prices become the list at one click.
         auto* use = control<QPushButton>(&window, "useSavedPrices");
         QVERIFY(use->isEnabled());
         QTest::mouseClick(use, Qt::LeftButton);
-        QCOMPARE(table->rowCount(), 3);
+        QCOMPARE(rowCount(table), 3);
         QCOMPARE(pricing->getPriceForItemType(0, 8), 23.40);
         QVERIFY(!use->isEnabled());
     }
@@ -80,8 +81,8 @@ private slots:
         QVERIFY(alerts->alerts.empty());
         QCOMPARE(other->priceItems().size(), size_t(44));
         QCOMPARE(other->getFullXMLString(), pricing->getFullXMLString());
-        auto* table = window.findChild<QTableWidget*>("priceTable");
-        QCOMPARE(table->item(5, 1)->text(), QString("19.95"));
+        auto* table = window.findChild<QTableView*>("priceTable");
+        QCOMPARE(cellText(table, 5, 1), QString("19.95"));
     }
 
     void badPriceFilesAreReported() {
@@ -112,13 +113,13 @@ private slots:
         QCOMPARE(alerts->alerts.back().message,
                  std::string("There was an error opening the file."));
         QCOMPARE(pricing->priceItems().size(), size_t(44));
-        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 44);
+        QCOMPARE(rowCount(window.findChild<QTableView*>("priceTable")), 44);
 
         // Cancelling the panel still reloads the table from the list.
         pricing->addPriceItem(std::make_shared<ZOLPriceItem>(13, 0.09));
         ScriptedPanels cancelled({});
         window.openPricing();
-        QCOMPARE(window.findChild<QTableWidget*>("priceTable")->rowCount(), 45);
+        QCOMPARE(rowCount(window.findChild<QTableView*>("priceTable")), 45);
     }
 };
 

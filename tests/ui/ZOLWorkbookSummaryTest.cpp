@@ -40,9 +40,6 @@ std::shared_ptr<ZOLWorkbook> job() {
     return workbook;
 }
 
-QString text(QTableWidget* table, int row, int column) {
-    return table->item(row, column) ? table->item(row, column)->text() : QString();
-}
 } // namespace
 
 class ZOLWorkbookSummaryTest : public QObject {
@@ -78,25 +75,25 @@ private slots:
         screen.setWorkbook(workbook);
         screen.loadValues();
         const auto summary = ZOLWorkbookSummaryViewController::summarize(*workbook);
-        auto* table = screen.findChild<QTableWidget*>("summaryTable");
+        auto* table = screen.findChild<QTableView*>("summaryTable");
         const int rows = static_cast<int>(summary.rows.size());
-        QCOMPARE(table->rowCount(), rows + 2);
-        QCOMPARE(text(table, 0, 0), QString("6\" Straight Block"));
-        QCOMPARE(text(table, 0, 2), QString("$21.50"));
-        QCOMPARE(text(table, rows, 0), QString("Zol Blocks Job Site Sign"));
-        QCOMPARE(text(table, rows, 1), QString("1"));
-        QCOMPARE(text(table, rows + 1, 0), QString("Totals"));
-        QCOMPARE(text(table, rows + 1, 1), QString::number(summary.totalQuantity));
-        QCOMPARE(text(table, rows + 1, 3),
+        QCOMPARE(rowCount(table), rows + 2);
+        QCOMPARE(cellText(table, 0, 0), QString("6\" Straight Block"));
+        QCOMPARE(cellText(table, 0, 2), QString("$21.50"));
+        QCOMPARE(cellText(table, rows, 0), QString("Zol Blocks Job Site Sign"));
+        QCOMPARE(cellText(table, rows, 1), QString("1"));
+        QCOMPARE(cellText(table, rows + 1, 0), QString("Totals"));
+        QCOMPARE(cellText(table, rows + 1, 1), QString::number(summary.totalQuantity));
+        QCOMPARE(cellText(table, rows + 1, 3),
                  QString::fromStdString(ZOLFormat::format("$%.2f", summary.totalCost)));
-        QVERIFY(table->item(0, 1)->textAlignment() & Qt::AlignRight);
+        QVERIFY(cellData(table, 0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
         expectTexts(&screen, QString::fromStdString(ZOLFormat::format(
                                  "grossSquareFeet=%.2f", workbook->getTotalGrossSquareFeet())));
 
         // Without a single block there is nothing to price.
         workbook->setWorksheets({std::make_shared<ZOLWorksheet>("Empty")});
         screen.loadValues();
-        QCOMPARE(table->rowCount(), 0);
+        QCOMPARE(rowCount(table), 0);
     }
 };
 
