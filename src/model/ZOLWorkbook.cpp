@@ -20,8 +20,6 @@
 
 namespace {
 
-const int32_t kBlockSizes[] = {4, 6, 8, 10, 12};
-
 std::shared_ptr<ZOLCustomItem> generatedLine(const char* calculatorType, std::string name,
                                              const char* unit) {
     auto line = std::make_shared<ZOLCustomItem>();
@@ -195,10 +193,10 @@ ZOLWorkbook::getWallSummaryItemForWalls(const std::vector<std::shared_ptr<ZOLWal
     // Deliberately shared by every part below: an accessory without a price item
     // is charged at the price of the part priced just before it.
     double price = 0.0;
-    for (int32_t size : kBlockSizes) {
+    for (int32_t size : ZOLWallData::kBlockSizes) {
         if (!workbookUsesSize(size))
             continue;
-        for (int32_t type = 0; type <= 11; ++type) {
+        for (int32_t type = 0; type <= ZOLWallData::kLastSizedPartType; ++type) {
             if (!ZOLWallData::getValidSizeWithBlockType(type, size))
                 continue;
             int32_t count = 0;
@@ -221,7 +219,8 @@ ZOLWorkbook::getWallSummaryItemForWalls(const std::vector<std::shared_ptr<ZOLWal
         // The accessories of all walls, priced whatever their size, once for every
         // block size the job uses: a job of two sizes counts and charges them
         // twice.
-        for (int32_t type = 12; type <= 16; ++type) {
+        for (int32_t type = ZOLWallData::kFirstAccessory; type <= ZOLWallData::kLastAccessory;
+             ++type) {
             int32_t count = 0;
             for (const auto& wall : walls) {
                 if (wall)

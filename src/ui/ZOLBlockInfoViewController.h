@@ -1,4 +1,6 @@
 #pragma once
+#include "calc/ZOLWallData.h"
+
 #include <QWidget>
 
 #include <memory>
@@ -23,7 +25,7 @@ public:
     void loadValues();
 
     // One row per part type, radius blocks and accessories included.
-    static constexpr int kRowCount = 17;
+    static constexpr int kRowCount = ZOLWallData::kPartTypeCount;
     // The column identifiers of the part table, in column order.
     static QString columnIdentifier(int column);
 
