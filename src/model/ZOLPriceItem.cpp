@@ -4,6 +4,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
 #include "io/ZOLXMLWriter.h"
+#include "model/ZOLFileProperty.h"
 
 ZOLPriceItem::ZOLPriceItem(int32_t type, double withPrice)
     : partSize_(ZOLWallData::kNoSize), partType_(type), price_(withPrice) {}
@@ -20,13 +21,13 @@ std::string ZOLPriceItem::getPartText() const {
 
 void ZOLPriceItem::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 81:
+    case ZOLFileProperty::PartSize:
         partSize_ = ZOLWallData::getBlockSizeWithBasicSizeString(value);
         break;
-    case 82:
+    case ZOLFileProperty::PartType:
         partType_ = ZOLWallData::getBlockTypeWithBasicPartString(value);
         break;
-    case 83:
+    case ZOLFileProperty::Price:
         price_ = ZOLText::leadingDouble(value);
         break;
     default:

@@ -6,6 +6,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLNumeric.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 using WC = ZOLWallCalculator;
 using WD = ZOLWallData;
@@ -446,79 +447,79 @@ std::string ZOLWall::getXMLString() const {
 void ZOLWall::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     using T = ZOLText;
     switch (forProperty) {
-    case 45:
+    case ZOLFileProperty::BlockSize:
         blockSize_ = WD::getBlockSizeWithBasicSizeString(value);
         break;
-    case 46:
+    case ZOLFileProperty::WallWallHeight:
         wallHeight_ = T::leadingDouble(value);
         break;
-    case 47:
+    case ZOLFileProperty::WallWallLength:
         wallLength_ = T::leadingDouble(value);
         break;
-    case 48:
+    case ZOLFileProperty::InsideCornerLocations:
         insideCornerLocations_ = T::leadingInt(value);
         break;
-    case 49:
+    case ZOLFileProperty::OutsideCornerLocations:
         outsideCornerLocations_ = T::leadingInt(value);
         break;
-    case 50:
+    case ZOLFileProperty::AngleLocations:
         angleLocations_ = T::leadingInt(value);
         break;
-    case 51:
+    case ZOLFileProperty::TBlockLocations:
         tBlockLocations_ = T::leadingInt(value);
         break;
-    case 52:
+    case ZOLFileProperty::LinearFeetCorbel:
         linearFeetCorbel_ = T::leadingDouble(value);
         break;
-    case 53:
+    case ZOLFileProperty::LinearFeetCurb:
         linearFeetCurb_ = T::leadingDouble(value);
         break;
-    case 54:
+    case ZOLFileProperty::CurbCornerLocations:
         curbCornerLocations_ = T::leadingInt(value);
         break;
-    case 55:
+    case ZOLFileProperty::LinearFeetTapered:
         linearFeetTapered_ = T::leadingDouble(value);
         break;
-    case 56:
+    case ZOLFileProperty::LinearFeetRadius:
         linearFeetRadius_ = T::leadingDouble(value);
         break;
-    case 57:
+    case ZOLFileProperty::Radius:
         radius_ = T::leadingInt(value);
         break;
-    case 58:
+    case ZOLFileProperty::SquareFeetOpenings:
         sqftOpenings_ = T::leadingDouble(value);
         break;
-    case 59:
+    case ZOLFileProperty::LinearFeetBuck:
         linearFeetBuck_ = T::leadingDouble(value);
         break;
-    case 60:
+    case ZOLFileProperty::StraightBlockAdded:
         straightBlockAdded_ = T::leadingInt(value);
         break;
-    case 61:
+    case ZOLFileProperty::CornerBlockAdded:
         cornerBlockAdded_ = T::leadingInt(value);
         break;
-    case 62:
+    case ZOLFileProperty::CaloraStickLayers:
         caloraStickLayers_ = T::leadingInt(value);
         break;
-    case 63:
+    case ZOLFileProperty::UseCutBlock:
         useCutBlock_ = T::boolValue(value);
         break;
-    case 64:
+    case ZOLFileProperty::UseHalfBlock:
         useHalfBlock_ = T::boolValue(value);
         break;
-    case 65:
+    case ZOLFileProperty::UseExtenders:
         useExtenders_ = T::boolValue(value);
         break;
-    case 66:
+    case ZOLFileProperty::UsePravex:
         usePravex_ = T::boolValue(value);
         break;
-    case 67:
+    case ZOLFileProperty::PelmoBrickHeight:
         pelmoBrickHeight_ = T::leadingDouble(value);
         break;
-    case 68:
+    case ZOLFileProperty::PelmoBrickLength:
         pelmoBrickLength_ = T::leadingDouble(value);
         break;
-    case 69:
+    case ZOLFileProperty::PelmoPerBlock:
         pelmoPerBlock_ = T::leadingInt(value);
         break;
     default: // another record's element
