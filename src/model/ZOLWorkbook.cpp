@@ -44,17 +44,6 @@ collect(const ZOLWorkbook::Worksheets& worksheets,
     return records;
 }
 
-// The name a generated rebar line gives a bar size. The summary reads the stored size as the
-// list position itself (size 1 reads "#5"), as the printed rebar page does. Imperial size 5
-// and Metric sizes 4 and 5 (and any size a damaged file may hold) have no entry there; their
-// steel still gets its line, with an empty size name (" Rebar"), rather than the summary
-// dropping linear feet the user entered or failing.
-std::string rebarSizeName(const std::vector<std::string>& sizes, int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= sizes.size())
-        return std::string();
-    return sizes[static_cast<std::size_t>(index)];
-}
-
 const std::string kWallType = "Wall";
 const std::string kRebarType = "Rebar";
 const std::string kConcreteType = "Concrete";
@@ -254,10 +243,7 @@ ZOLWorkbook::CustomItems
 ZOLWorkbook::getRebarSummaryItemsForRebars(const std::vector<std::shared_ptr<ZOLRebar>>& rebars,
                                            bool visible) {
     CustomItems lines;
-    const std::vector<std::string> sizeLists[] = {ZOLRebarCalculator::getImperialRebarSizes(),
-                                                  ZOLRebarCalculator::getMetricRebarSizes()};
     for (int32_t measurement = 0; measurement <= 1; ++measurement) {
-        const auto& sizes = sizeLists[measurement];
         for (int32_t index = 1; index <= 5; ++index) {
             for (const auto& rebar : rebars) {
                 if (!rebar || rebar->measurement() != measurement)
@@ -273,8 +259,14 @@ ZOLWorkbook::getRebarSummaryItemsForRebars(const std::vector<std::shared_ptr<ZOL
                     length += rebar->getVerticalLength();
                 if (!(length > 0.0))
                     continue;
+                // The line names the size as the printed rebar page does. A size with no
+                // name there still gets its line (" Rebar") rather than the summary dropping
+                // linear feet the user entered.
                 auto line = generatedLine(
-                    "Rebar", ZOLFormat::format("%@ Rebar", rebarSizeName(sizes, index)),
+                    "Rebar",
+                    ZOLFormat::format("%@ Rebar",
+                                      ZOLRebarCalculator::getPrintedRebarSizeNameWithMeasurement(
+                                          measurement, index)),
                     "Linear Feet");
                 line->setQuantity(length);
                 line->setVisible(visible);

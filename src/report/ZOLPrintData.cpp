@@ -387,28 +387,23 @@ std::string ZOLPrintData::getOpeningsHTML(const std::shared_ptr<ZOLOpenings>& op
 
 namespace {
 
-// The rebar page names a stored size by the entry at that position of the size list, one
-// further along than the rebar screen's own naming: stored size 1 prints "#5" ("15M"). A
-// size with no entry at its position (Imperial 5 and up, Metric 4 and up, or a negative size
-// from a damaged file) prints no name rather than another bar's.
-std::string rebarSizeName(const std::vector<std::string>& sizes, int32_t size) {
-    if (size < 0 || static_cast<std::size_t>(size) >= sizes.size())
-        return std::string();
-    return sizes[static_cast<std::size_t>(size)];
+std::string rebarSizeName(int32_t measurement, int32_t size) {
+    return ZOLRebarCalculator::getPrintedRebarSizeNameWithMeasurement(measurement, size);
 }
 
 // One total line when both bars are the same size, else one line a size, the smaller first.
-std::string rebarTotals(const std::vector<std::string>& sizes, int32_t sizeA, double lengthA,
-                        int32_t sizeB, double lengthB) {
+std::string rebarTotals(int32_t measurement, int32_t sizeA, double lengthA, int32_t sizeB,
+                        double lengthB) {
     if (sizeA == sizeB)
-        return ZOLFormat::format("<p>%@\t\t%@</p>\n", rebarSizeName(sizes, sizeA),
+        return ZOLFormat::format("<p>%@\t\t%@</p>\n", rebarSizeName(measurement, sizeA),
                                  feet(lengthA + lengthB));
     if (sizeB < sizeA) {
         std::swap(sizeA, sizeB);
         std::swap(lengthA, lengthB);
     }
-    return ZOLFormat::format("<p>%@\t\t%@</p>\n<p>%@\t\t%@</p>\n", rebarSizeName(sizes, sizeA),
-                             feet(lengthA), rebarSizeName(sizes, sizeB), feet(lengthB));
+    return ZOLFormat::format("<p>%@\t\t%@</p>\n<p>%@\t\t%@</p>\n",
+                             rebarSizeName(measurement, sizeA), feet(lengthA),
+                             rebarSizeName(measurement, sizeB), feet(lengthB));
 }
 
 } // namespace
@@ -416,26 +411,25 @@ std::string rebarTotals(const std::vector<std::string>& sizes, int32_t sizeA, do
 std::string ZOLPrintData::getRebarHTML(const std::shared_ptr<ZOLRebar>& rebar,
                                        const std::string& projectInfo) {
     const auto r = orFresh(rebar);
-    const std::vector<std::string> sizes = r->measurement() == 0
-                                               ? ZOLRebarCalculator::getImperialRebarSizes()
-                                               : ZOLRebarCalculator::getMetricRebarSizes();
+    const int32_t measurement = r->measurement();
     std::string html = ZOLFormat::format(
         "<div class=\"page\">\n<div class=\"content rebar\">\n<h1>Rebar</h1>\n%@\n<p>Linear "
         "Feet of Wall: %@</p>\n<div class=\"rebar-type\">\n<h2>Horizontal Rebar</h2>\n<p>%d "
         "Rows of %@, with %d\" lap splice</p>\n<p>%d Rows of %@, with %d\" lap "
         "splice</p>\n<h3>Total Horizontal Rebar</h3>\n",
         projectInfo, feet(r->wallLength()), r->horizontalRowCount1(),
-        rebarSizeName(sizes, r->horizontalSize1()), r->horizontalLap1(), r->horizontalRowCount2(),
-        rebarSizeName(sizes, r->horizontalSize2()), r->horizontalLap2());
-    html += rebarTotals(sizes, r->horizontalSize1(), r->getHorizontalLength1(),
+        rebarSizeName(measurement, r->horizontalSize1()), r->horizontalLap1(),
+        r->horizontalRowCount2(), rebarSizeName(measurement, r->horizontalSize2()),
+        r->horizontalLap2());
+    html += rebarTotals(measurement, r->horizontalSize1(), r->getHorizontalLength1(),
                         r->horizontalSize2(), r->getHorizontalLength2());
     html += ZOLFormat::format(
         "</div>\n<div class=\"rebar-type\">\n<h2>Vertical Rebar</h2>\n<p>Wall Height: "
         "%@</p>\n<p>%@ Vertical with %d Spacing</p>\n<p>%@ Dowel with %d Spacing</p>\n<h3>Total "
         "Vertical Rebar</h3>\n",
-        feet(r->wallHeight()), rebarSizeName(sizes, r->verticalSize()), r->verticalSpacing(),
-        rebarSizeName(sizes, r->dowelSize()), r->dowelSpacing());
-    html += rebarTotals(sizes, r->verticalSize(), r->getVerticalLength(), r->dowelSize(),
+        feet(r->wallHeight()), rebarSizeName(measurement, r->verticalSize()), r->verticalSpacing(),
+        rebarSizeName(measurement, r->dowelSize()), r->dowelSpacing());
+    html += rebarTotals(measurement, r->verticalSize(), r->getVerticalLength(), r->dowelSize(),
                         r->getDowelLength());
     html += "</div></div></div>";
     return html;
