@@ -93,30 +93,9 @@ void ZOLWorkbook::addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet) {
     worksheets_ = std::move(sheets);
 }
 
-void ZOLWorkbook::addWorksheets(const Worksheets& worksheets) {
-    // Copied first: the argument may be this workbook's own list.
-    const Worksheets toAdd = worksheets;
-    for (const auto& sheet : toAdd)
-        addWorksheetsObject(sheet);
-}
-
 bool ZOLWorkbook::worksheetExistsWithName(const std::string& name) const {
     return std::any_of(worksheets_.begin(), worksheets_.end(),
                        [&](const auto& sheet) { return sheet && sheet->name() == name; });
-}
-
-void ZOLWorkbook::changeWorksheetNameWithOldName(const std::string& oldName,
-                                                 const std::string& WithNewName) {
-    if (worksheetExistsWithName(WithNewName)) {
-        alertDuplicateName();
-        return;
-    }
-    for (const auto& sheet : worksheets_) {
-        if (sheet && sheet->name() == oldName) {
-            sheet->setName(WithNewName);
-            return;
-        }
-    }
 }
 
 double ZOLWorkbook::getTotalGrossSquareFeet() const {
