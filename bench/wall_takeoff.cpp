@@ -14,10 +14,10 @@ namespace {
 
 std::vector<ZOLWall> sampleWalls() {
     std::vector<ZOLWall> walls;
-    const int32_t sizes[] = {4, 6, 8, 10, 12};
+    const auto& sizes = ZOLWallData::kBlockSizes;
     for (int i = 0; i < 40; ++i) {
         ZOLWall w;
-        w.setBlockSize(sizes[i % 5]);
+        w.setBlockSize(sizes[static_cast<std::size_t>(i) % sizes.size()]);
         w.setWallHeight(1.334 * (3 + i % 20));
         w.setWallLength(40.0 + 17.5 * i);
         w.setInsideCornerLocations(i % 4);

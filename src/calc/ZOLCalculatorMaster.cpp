@@ -61,22 +61,6 @@ const std::vector<double>& ZOLCalculatorMaster::getAvailableWallHeightsAtFourInc
     return heights;
 }
 
-double ZOLCalculatorMaster::getWallHeightValueAtSixteenInchesForIndex(uint64_t index) {
-    return getAvailableWallHeightsAtSixteenInches().at(index);
-}
-
-double ZOLCalculatorMaster::getWallHeightValueAtFourInchesForIndex(uint64_t index) {
-    return getAvailableWallHeightsAtFourInches().at(index);
-}
-
-std::string ZOLCalculatorMaster::getWallHeightTextAtSixteenInchesForIndex(uint64_t index) {
-    return convertFeetToText(getWallHeightValueAtSixteenInchesForIndex(index));
-}
-
-std::string ZOLCalculatorMaster::getWallHeightTextAtFourInchesForIndex(uint64_t index) {
-    return convertFeetToText(getWallHeightValueAtFourInchesForIndex(index));
-}
-
 std::string ZOLCalculatorMaster::convertFeetToText(double feet) {
     const int32_t wholeFeet = ZOLNumeric::toInt(feet);
     const int32_t totalInches = ZOLNumeric::toInt(feet * 12);
@@ -88,20 +72,10 @@ double ZOLCalculatorMaster::convertWallHeightToFourInchCompatible(double feet) {
     return snapToList(getAvailableWallHeightsAtFourInches(), feet);
 }
 
-double ZOLCalculatorMaster::convertWallHeightToSixteenInchCompatible(double feet) {
-    return snapToList(getAvailableWallHeightsAtSixteenInches(), feet);
-}
-
 double ZOLCalculatorMaster::calculateSqFtWithWidth(double width, double height, bool inInches) {
     if (inInches)
         return (height / 12) * (width / 12);
     return height * width;
-}
-
-double ZOLCalculatorMaster::calculateLFWidthWidth(double width, double height, bool inInches) {
-    if (inInches)
-        return 2 * (height / 12) + 2 * (width / 12);
-    return 2 * height + 2 * width;
 }
 
 double ZOLCalculatorMaster::calculateVolumeRectWithLength(double length, double width,

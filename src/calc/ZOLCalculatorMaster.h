@@ -1,5 +1,4 @@
 #pragma once
-#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -11,18 +10,11 @@ public:
 
     static const std::vector<double>& getAvailableWallHeightsAtSixteenInches();
     static const std::vector<double>& getAvailableWallHeightsAtFourInches();
-    // An index past the list is the caller's fault and throws std::out_of_range.
-    static double getWallHeightValueAtSixteenInchesForIndex(uint64_t index);
-    static double getWallHeightValueAtFourInchesForIndex(uint64_t index);
-    static std::string getWallHeightTextAtSixteenInchesForIndex(uint64_t index);
-    static std::string getWallHeightTextAtFourInchesForIndex(uint64_t index);
 
     static std::string convertFeetToText(double feet);
     static double convertWallHeightToFourInchCompatible(double feet);
-    static double convertWallHeightToSixteenInchCompatible(double feet);
 
     static double calculateSqFtWithWidth(double width, double height, bool inInches);
-    static double calculateLFWidthWidth(double width, double height, bool inInches);
     static double calculateVolumeRectWithLength(double length, double width, double height);
     static double calculateVolumeCylinderWithRadius(double radius, double height);
     static double convertCubicYardsToMeters(double yards);

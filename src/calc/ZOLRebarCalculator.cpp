@@ -2,6 +2,8 @@
 
 #include "io/ZOLNumeric.h"
 
+#include <cstdint>
+
 namespace {
 // Whole feet of a length in inches, truncated toward zero (30 inches are 2 feet).
 int32_t wholeFeet(int32_t inches) {
@@ -15,6 +17,23 @@ std::vector<std::string> ZOLRebarCalculator::getImperialRebarSizes() {
 
 std::vector<std::string> ZOLRebarCalculator::getMetricRebarSizes() {
     return {"10M", "15M", "20M", "25M"};
+}
+
+std::optional<std::string> ZOLRebarCalculator::getRebarSizeNameWithMeasurement(int32_t measurement,
+                                                                               int32_t size) {
+    const std::vector<std::string> sizes =
+        measurement == 0 ? getImperialRebarSizes() : getMetricRebarSizes();
+    if (size < 1 || static_cast<std::size_t>(size) > sizes.size())
+        return std::nullopt;
+    return sizes[static_cast<std::size_t>(size) - 1];
+}
+
+std::string ZOLRebarCalculator::getPrintedRebarSizeNameWithMeasurement(int32_t measurement,
+                                                                       int32_t size) {
+    // The printed position is the screen's one further along.
+    if (size == INT32_MAX)
+        return std::string();
+    return getRebarSizeNameWithMeasurement(measurement, size + 1).value_or(std::string());
 }
 
 double ZOLRebarCalculator::calculateHorizontalRebarWithWallLength(double wallLength,

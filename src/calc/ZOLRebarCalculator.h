@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,15 @@ public:
     // Metric list is one shorter, so an Imperial "#8" (size 5) names nothing in Metric.
     static std::vector<std::string> getImperialRebarSizes();
     static std::vector<std::string> getMetricRebarSizes();
+    // The name the rebar screen lists a stored size under, from the Imperial list for
+    // measurement 0 and the Metric one for any other value; absent where the list has none.
+    static std::optional<std::string> getRebarSizeNameWithMeasurement(int32_t measurement,
+                                                                      int32_t size);
+    // The name the printed rebar page and the job summary's rebar lines give a stored size:
+    // the entry at the size's own position, one further along than the screen's naming, so
+    // stored size 1 prints "#5" ("15M"). A size with no entry there (Imperial 5 and up, Metric
+    // 4 and up, a negative size from a damaged file) gets no name rather than another bar's.
+    static std::string getPrintedRebarSizeNameWithMeasurement(int32_t measurement, int32_t size);
 
     // Every row runs the whole wall, and each 20 feet of wall adds one lap per row.
     static double calculateHorizontalRebarWithWallLength(double wallLength, int32_t lapSplice,

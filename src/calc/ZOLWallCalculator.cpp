@@ -7,12 +7,11 @@
 #include <cmath>
 
 using N = ZOLNumeric;
+using WD = ZOLWallData;
 
 namespace {
 
 constexpr double kTruckCapacity = 2520.0; // trailer space units of one truck
-constexpr double kStraightBlockSqFt = 5.33;
-constexpr int32_t kHVClipBoxType = 13;
 
 // Blocks that take HV clips: full blocks of every shape, half blocks counting as a half each.
 int32_t clippedBlocks(int32_t straight, int32_t straightHalf, int32_t corner, int32_t cornerHalf,
@@ -30,12 +29,12 @@ int32_t clippedBlocks(int32_t straight, int32_t straightHalf, int32_t corner, in
 
 double ZOLWallCalculator::calculateBlockWeightWithBlockSize(int32_t blockSize, int32_t blockType,
                                                             int32_t quantity) {
-    return ZOLWallData::getWeightWithBlockType(blockType, blockSize) * quantity;
+    return WD::getWeightWithBlockType(blockType, blockSize) * quantity;
 }
 
 int32_t ZOLWallCalculator::calculateBundlesWithBlockSize(int32_t blockSize, int32_t blockType,
                                                          int32_t quantity) {
-    const int32_t bundleSize = ZOLWallData::getBundleSizeWithBlockType(blockType, blockSize);
+    const int32_t bundleSize = WD::getBundleSizeWithBlockType(blockType, blockSize);
     if (bundleSize < 1)
         return 0;
     // A started bundle is a whole bundle: the quotient, plus one for any remainder. With a
@@ -80,7 +79,10 @@ int32_t ZOLWallCalculator::calculateCorbelOrTaperedBlockWithLinearFeet(double li
 int32_t ZOLWallCalculator::calculateOpeningDeductionWithSqFtOfOpenings(double sqFtOfOpenings) {
     // Openings save straight blocks, but only 85 % of them: blocks around an opening are cut,
     // not left whole.
-    return N::floorToInt(sqFtOfOpenings / kStraightBlockSqFt * 0.85);
+    // The straight block covers the same area in every size.
+    const double straightBlockSqFt =
+        WD::getSquareFeetWithBlockType(WD::Straight, WD::kDefaultBlockSize);
+    return N::floorToInt(sqFtOfOpenings / straightBlockSqFt * 0.85);
 }
 
 int32_t ZOLWallCalculator::calculateStraightBlockWithWallLength(
@@ -110,7 +112,7 @@ int32_t ZOLWallCalculator::calculateHVClipsWithStraightBlock(
                                          cornerHalfBlock, angleBlock, tBlock, straightCurbBlock,
                                          cornerCurbBlock, corbelBlock, taperedBlock, radiusBlock);
     // One box of clips per started 150 blocks.
-    const double boxSize = ZOLWallData::getBundleSizeWithBlockType(kHVClipBoxType, 4);
+    const double boxSize = WD::getBundleSizeWithBlockType(WD::HVClips, WD::kBlockSizes.front());
     return N::toInt(std::ceil(blocks / 150.0) * boxSize);
 }
 
@@ -220,19 +222,10 @@ double ZOLWallCalculator::calculateCubicYardsOfConcreteWithWallHeight(double wal
                                                                       int32_t caloraStickLayers) {
     // Each layer of calora sticks takes 2 inches of the core, never leaving less than 4.
     int32_t coreWidth = blockSize;
-    if (caloraStickLayers >= 1) {
-        switch (blockSize) {
-        case 4:
-        case 6:
-        case 8:
-        case 10:
-        case 12:
-            coreWidth = std::max(4, blockSize - 2 * std::min(caloraStickLayers, 4));
-            break;
-        default:
-            break;
-        }
-    }
+    const bool lineSize = std::find(WD::kBlockSizes.begin(), WD::kBlockSizes.end(), blockSize) !=
+                          WD::kBlockSizes.end();
+    if (caloraStickLayers >= 1 && lineSize)
+        coreWidth = std::max(4, blockSize - 2 * std::min(caloraStickLayers, 4));
     const double f = coreWidth / 12.0;
     return wallHeight * linearFeetOfWall * f / 27 - f * sqFtOfOpenings / 27;
 }
@@ -254,16 +247,26 @@ double ZOLWallCalculator::calculateTrucksWithBlockSize(
     };
     // The trailer is loaded in this order; Pravex and pelmo ride along in the cab.
     const Load loads[] = {
-        {0, straightBundles},     {1, straightHalfBundles}, {2, cornerBundles},
-        {3, cornerHalfBundles},   {4, angleBundles},        {7, tBundles},
-        {5, straightCurbBundles}, {6, cornerCurbBundles},   {8, corbelBundles},
-        {9, taperedBundles},      {10, radiusBundles},      {11, buckBundles},
-        {12, extenderBundles},    {13, hVClipBoxes},        {14, caloraStickBundles},
+        {WD::Straight, straightBundles},
+        {WD::StraightHalf, straightHalfBundles},
+        {WD::Corner, cornerBundles},
+        {WD::CornerHalf, cornerHalfBundles},
+        {WD::Angle, angleBundles},
+        {WD::TBlock, tBundles},
+        {WD::StraightCurb, straightCurbBundles},
+        {WD::CornerCurb, cornerCurbBundles},
+        {WD::Corbel, corbelBundles},
+        {WD::Tapered, taperedBundles},
+        {WD::Radius, radiusBundles},
+        {WD::Buck, buckBundles},
+        {WD::Extender, extenderBundles},
+        {WD::HVClips, hVClipBoxes},
+        {WD::CaloraSticks, caloraStickBundles},
     };
     double space = 0.0;
     for (const Load& load : loads)
-        space += std::ceil(ZOLWallData::getTrailerAllowanceWithBlockType(load.type, blockSize) *
-                           load.bundles);
+        space +=
+            std::ceil(WD::getTrailerAllowanceWithBlockType(load.type, blockSize) * load.bundles);
     if (space > 0)
         space /= kTruckCapacity;
     return space;

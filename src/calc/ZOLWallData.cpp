@@ -115,8 +115,6 @@ constexpr Doubles kTrailerAllowance[ZOLWallData::kPartTypeCount] = {
     anySize(0.3),                          // 16
 };
 
-constexpr int32_t kBuckType = 11;
-
 // The buck comes in two gauges: the narrow one for 4- and 6-inch cores, the wide one for
 // every other size value.
 constexpr double buckGauge(int32_t blockSize, double narrow, double wide) {
@@ -155,10 +153,23 @@ struct PartWord {
     int32_t type;
 };
 constexpr PartWord kPartWords[] = {
-    {"straight", 0},     {"straighthalf", 1}, {"corner", 2},    {"cornerhalf", 3}, {"angle", 4},
-    {"tblock", 7},       {"corbel", 8},       {"tapered", 9},   {"radius", 10},    {"buck", 11},
-    {"straightcurb", 5}, {"cornercurb", 6},   {"extender", 12}, {"hv", 13},        {"r9", 14},
-    {"pravex", 15},      {"pelmo", 16},
+    {"straight", ZOLWallData::Straight},
+    {"straighthalf", ZOLWallData::StraightHalf},
+    {"corner", ZOLWallData::Corner},
+    {"cornerhalf", ZOLWallData::CornerHalf},
+    {"angle", ZOLWallData::Angle},
+    {"tblock", ZOLWallData::TBlock},
+    {"corbel", ZOLWallData::Corbel},
+    {"tapered", ZOLWallData::Tapered},
+    {"radius", ZOLWallData::Radius},
+    {"buck", ZOLWallData::Buck},
+    {"straightcurb", ZOLWallData::StraightCurb},
+    {"cornercurb", ZOLWallData::CornerCurb},
+    {"extender", ZOLWallData::Extender},
+    {"hv", ZOLWallData::HVClips},
+    {"r9", ZOLWallData::CaloraSticks},
+    {"pravex", ZOLWallData::Pravex},
+    {"pelmo", ZOLWallData::Pelmo},
 };
 
 bool equalsLowerCased(std::string_view text, std::string_view lowerWord) {
@@ -179,15 +190,15 @@ bool equalsLowerCased(std::string_view text, std::string_view lowerWord) {
 double ZOLWallData::getLengthWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    return blockType <= 10 ? 49.0 : 0.0; // blocks are 49 inches long; accessories have none
+    return blockType <= Radius ? 49.0 : 0.0; // blocks are 49 inches long; accessories have none
 }
 
 double ZOLWallData::getHeightWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    if (blockType == 1 || blockType == 3)
+    if (blockType == StraightHalf || blockType == CornerHalf)
         return 9.0;
-    return blockType <= 10 ? 16.33 : 0.0;
+    return blockType <= Radius ? 16.33 : 0.0;
 }
 
 double ZOLWallData::getSquareFeetWithBlockType(int32_t blockType, int32_t blockSize) {
@@ -199,7 +210,7 @@ double ZOLWallData::getSquareFeetWithBlockType(int32_t blockType, int32_t blockS
 double ZOLWallData::getWeightWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    if (blockType == kBuckType)
+    if (blockType == Buck)
         return buckGauge(blockSize, 2.5, 3.0);
     return kWeight[blockType].at(blockSize);
 }
@@ -213,7 +224,7 @@ int32_t ZOLWallData::getBundleSizeWithBlockType(int32_t blockType, int32_t block
 double ZOLWallData::getTrailerAllowanceWithBlockType(int32_t blockType, int32_t blockSize) {
     if (!getValidSizeWithBlockType(blockType, blockSize))
         return 0.0;
-    if (blockType == kBuckType)
+    if (blockType == Buck)
         return buckGauge(blockSize, 11.5, 13.25);
     return kTrailerAllowance[blockType].at(blockSize);
 }
@@ -225,7 +236,7 @@ std::optional<std::string> ZOLWallData::getPartNameWithBlockType(int32_t blockTy
 }
 
 std::optional<std::string> ZOLWallData::getBasicPartStringWithBlockType(int32_t blockType) {
-    if (blockType == kUnknownPartType)
+    if (blockType == NoPart)
         return std::string();
     if (blockType < 0 || blockType >= kPartTypeCount)
         return std::nullopt;
@@ -236,11 +247,11 @@ int32_t ZOLWallData::getBlockTypeWithBasicPartString(std::string_view text) {
     for (const PartWord& entry : kPartWords)
         if (equalsLowerCased(text, entry.word))
             return entry.type;
-    return kUnknownPartType;
+    return NoPart;
 }
 
 int32_t ZOLWallData::getBlockTypeWithBasicPartString(const std::optional<std::string>& text) {
-    return text ? getBlockTypeWithBasicPartString(std::string_view(*text)) : kUnknownPartType;
+    return text ? getBlockTypeWithBasicPartString(std::string_view(*text)) : NoPart;
 }
 
 std::optional<std::string> ZOLWallData::getBasicSizeStringWithBlockSize(int32_t blockSize) {

@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -12,31 +13,68 @@ class ZOLWallData {
 public:
     ZOLWallData() = delete;
 
-    static constexpr int32_t kPartTypeCount = 17; // types 0 to 16
-    static constexpr int32_t kUnknownPartType = 17;
+    // The part types. The values are those the files, the price lists and the take-off tables
+    // are indexed by, so they never change.
+    enum PartType : int32_t {
+        Straight = 0,
+        StraightHalf = 1,
+        Corner = 2,
+        CornerHalf = 3,
+        Angle = 4,
+        StraightCurb = 5,
+        CornerCurb = 6,
+        TBlock = 7,
+        Corbel = 8,
+        Tapered = 9,
+        Radius = 10,
+        Buck = 11,
+        Extender = 12,
+        HVClips = 13,
+        CaloraSticks = 14,
+        Pravex = 15,
+        Pelmo = 16,
+        NoPart = 17, // what the parser gives for a word that names no part
+    };
+    static constexpr int32_t kPartTypeCount = NoPart; // types 0 to 16
+    // The price list and the summaries take the block shapes and the buck per block size, and
+    // the accessories after them once for every size.
+    static constexpr int32_t kLastSizedPartType = Buck;
+    static constexpr int32_t kFirstAccessory = Extender;
+    static constexpr int32_t kLastAccessory = Pelmo;
+
+    // The block sizes of the line, smallest first.
+    static constexpr std::array<int32_t, 5> kBlockSizes{4, 6, 8, 10, 12};
     static constexpr int32_t kDefaultBlockSize = 8;
+    // The size an accessory's price item carries: it has none, and is filed under the largest.
+    static constexpr int32_t kNoSize = 12;
 
     // Whether the part exists in that size. Types 0-3 and 11-16 exist in every size value (the
     // size tables then give 0 for a size the line does not make).
     static constexpr bool getValidSizeWithBlockType(int32_t blockType, int32_t blockSize) {
         // Compared unsigned so that negative types fall outside as well.
-        if (static_cast<uint32_t>(blockType) > 16u)
+        if (static_cast<uint32_t>(blockType) > static_cast<uint32_t>(Pelmo))
             return false;
         switch (blockType) {
-        case 4: // angle
+        case Angle:
             return blockSize == 4 || blockSize == 6 || blockSize == 8;
-        case 5: // curb blocks
-        case 6:
+        case StraightCurb:
+        case CornerCurb:
             return blockSize == 8 || blockSize == 10;
-        case 7: // T, corbel, tapered
-        case 8:
-        case 9:
+        case TBlock:
+        case Corbel:
+        case Tapered:
             return blockSize == 6 || blockSize == 8;
-        case 10: // radius
+        case Radius:
             return blockSize == 6;
         default: // 0 to 3 and 11 to 16 take every size value
             return true;
         }
+    }
+
+    // Extenders, HV clips and calora sticks are sold without a size: the price list answers
+    // them whatever size is asked for and names them without one.
+    static constexpr bool isSoldWithoutSize(int32_t blockType) {
+        return blockType == Extender || blockType == HVClips || blockType == CaloraSticks;
     }
 
     // Per-piece data; 0 for a pair that does not exist.

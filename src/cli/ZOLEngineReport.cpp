@@ -82,12 +82,7 @@ const char* volumeUnit(int32_t measurement) {
 } // namespace
 
 std::optional<std::string> rebarSizeName(int32_t measurement, int32_t size) {
-    const std::vector<std::string> sizes = measurement == 0
-                                               ? ZOLRebarCalculator::getImperialRebarSizes()
-                                               : ZOLRebarCalculator::getMetricRebarSizes();
-    if (size < 1 || static_cast<std::size_t>(size) > sizes.size())
-        return std::nullopt;
-    return sizes[static_cast<std::size_t>(size) - 1];
+    return ZOLRebarCalculator::getRebarSizeNameWithMeasurement(measurement, size);
 }
 
 nlohmann::json rebarJson(const ZOLRebar& rebar) {

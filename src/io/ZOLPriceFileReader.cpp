@@ -2,6 +2,7 @@
 
 #include "io/ZOLReadCheck.h"
 #include "io/ZOLSaxParser.h"
+#include "model/ZOLFileProperty.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "platform/ZOLAlerts.h"
@@ -34,11 +35,11 @@ void ZOLPriceFileReader::startElement(std::string_view name, const Attributes&) 
     else if (name == "PriceItem")
         item_ = std::make_shared<ZOLPriceItem>();
     else if (name == "PartSize")
-        property_ = 81;
+        property_ = ZOLFileProperty::PartSize;
     else if (name == "PartType")
-        property_ = 82;
+        property_ = ZOLFileProperty::PartType;
     else if (name == "Price")
-        property_ = 83;
+        property_ = ZOLFileProperty::Price;
 }
 
 void ZOLPriceFileReader::characters(std::string_view chunk) {

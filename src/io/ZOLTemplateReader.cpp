@@ -3,6 +3,7 @@
 #include "io/ZOLReadCheck.h"
 #include "io/ZOLSaxParser.h"
 #include "model/ZOLCustomItem.h"
+#include "model/ZOLFileProperty.h"
 #include "model/ZOLWorkbook.h"
 #include "platform/ZOLAlerts.h"
 
@@ -23,10 +24,12 @@ ZOLTemplateReader::ZOLTemplateReader(ZOLWorkbook& workbook, const ZOLReadLimits&
 ZOLTemplateReader::~ZOLTemplateReader() = default;
 
 void ZOLTemplateReader::startElement(std::string_view name, const Attributes&) {
-    static const std::unordered_map<std::string_view, int32_t> codes = {
-        {"Name", 84},           {"Quantity", 85},       {"Unit", 86},    {"Cost", 87},
-        {"TiedToWorkbook", 88}, {"CalculatorType", 89}, {"Visible", 90},
-    };
+    static const std::unordered_map<std::string_view, int32_t> codes = [] {
+        std::unordered_map<std::string_view, int32_t> byElement;
+        for (const ZOLFileProperty::Leaf& leaf : ZOLFileProperty::kTemplateLeaves)
+            byElement.emplace(leaf.element, leaf.code);
+        return byElement;
+    }();
     if (name == "CustomItems") {
         items_.emplace();
         sawCustomItems_ = true;

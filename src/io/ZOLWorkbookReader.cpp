@@ -5,6 +5,7 @@
 #include "io/ZOLSaxParser.h"
 #include "io/ZOLText.h"
 #include "model/ZOLConcrete.h"
+#include "model/ZOLFileProperty.h"
 #include "model/ZOLManHours.h"
 #include "model/ZOLOpening.h"
 #include "model/ZOLOpenings.h"
@@ -24,11 +25,7 @@
 
 namespace {
 
-// Property codes of the workbook's own elements, handled by the reader itself.
-constexpr int32_t kProjectName = 0;
-constexpr int32_t kClientName = 1;
-constexpr int32_t kProjectDate = 2;
-constexpr int32_t kRoundToFullBundles = 5;
+using P = ZOLFileProperty;
 
 constexpr int32_t kDefaultPriceItems = 44;
 
@@ -63,12 +60,14 @@ struct Element {
 class ElementTable {
 public:
     ElementTable(std::initializer_list<std::pair<std::string_view, Element>> entries) {
-        for (const auto& [name, element] : entries) {
-            std::size_t i = slot(name);
-            while (!slots_[i].first.empty())
-                i = (i + 1) & kMask;
-            slots_[i] = {name, element};
-        }
+        for (const auto& [name, element] : entries)
+            add(name, element);
+    }
+    void add(std::string_view name, Element element) {
+        std::size_t i = slot(name);
+        while (!slots_[i].first.empty())
+            i = (i + 1) & kMask;
+        slots_[i] = {name, element};
     }
     Element find(std::string_view name) const {
         if (name.empty())
@@ -96,95 +95,20 @@ private:
 };
 
 Element lookUp(std::string_view name) {
-    static const ElementTable table = {
-        {"Workbook", {Tag::Workbook}},
-        {"Worksheet", {Tag::Worksheet}},
-        {"ConcreteData", {Tag::ConcreteData}},
-        {"OpeningData", {Tag::OpeningData}},
-        {"Opening", {Tag::Opening}},
-        {"RebarData", {Tag::RebarData}},
-        {"TiltData", {Tag::TiltData}},
-        {"WallData", {Tag::WallData}},
-        {"ManHourData", {Tag::ManHourData}},
-        {"PriceItem", {Tag::PriceItem}},
-        {"PricingData", {Tag::PricingData}},
-        {"Measurement", {Tag::Measurement}},
-        {"WallLength", {Tag::WallLength}},
-        {"WallHeight", {Tag::WallHeight}},
-        {"ProjectName", {Tag::Leaf, 0}},
-        {"ClientName", {Tag::Leaf, 1}},
-        {"ProjectDate", {Tag::Leaf, 2}},
-        {"ProjectVersion", {Tag::Leaf, 3}},
-        {"DistributorName", {Tag::Leaf, 4}},
-        {"RoundToFullBundles", {Tag::Leaf, 5}},
-        {"SummarizeWall", {Tag::Leaf, 6}},
-        {"SummarizeRebar", {Tag::Leaf, 7}},
-        {"SummarizeConcrete", {Tag::Leaf, 8}},
-        {"SummarizeTilt", {Tag::Leaf, 9}},
-        {"SummarizeManHours", {Tag::Leaf, 10}},
-        {"FootingWidth", {Tag::Leaf, 12}},
-        {"FootingLength", {Tag::Leaf, 13}},
-        {"FootingDepth", {Tag::Leaf, 14}},
-        {"PileDepth", {Tag::Leaf, 15}},
-        {"PileDiameter", {Tag::Leaf, 16}},
-        {"PileCount", {Tag::Leaf, 17}},
-        {"SlabLength", {Tag::Leaf, 18}},
-        {"SlabWidth", {Tag::Leaf, 19}},
-        {"SlabDepth", {Tag::Leaf, 20}},
-        {"WallThickness", {Tag::Leaf, 22}},
-        {"RowNumber", {Tag::Leaf, 24}},
-        {"NumberOfOpenings", {Tag::Leaf, 25}},
-        {"OpeningWidth", {Tag::Leaf, 26}},
-        {"OpeningHeight", {Tag::Leaf, 27}},
-        {"UseSill", {Tag::Leaf, 28}},
-        {"HorizontalSize1", {Tag::Leaf, 31}},
-        {"HorizontalRowCount1", {Tag::Leaf, 32}},
-        {"HorizontalLap1", {Tag::Leaf, 33}},
-        {"HorizontalSize2", {Tag::Leaf, 34}},
-        {"HorizontalRowCount2", {Tag::Leaf, 35}},
-        {"HorizontalLap2", {Tag::Leaf, 36}},
-        {"VerticalSize", {Tag::Leaf, 38}},
-        {"VerticalSpacing", {Tag::Leaf, 39}},
-        {"DowelSize", {Tag::Leaf, 40}},
-        {"DowelSpacing", {Tag::Leaf, 41}},
-        {"DowelLength", {Tag::Leaf, 42}},
-        {"BlockSize", {Tag::Leaf, 45}},
-        {"InsideCornerLocations", {Tag::Leaf, 48}},
-        {"OutsideCornerLocations", {Tag::Leaf, 49}},
-        {"AngleLocations", {Tag::Leaf, 50}},
-        {"TBlockLocations", {Tag::Leaf, 51}},
-        {"LinearFeetCorbel", {Tag::Leaf, 52}},
-        {"LinearFeetCurb", {Tag::Leaf, 53}},
-        {"CurbCornerLocations", {Tag::Leaf, 54}},
-        {"LinearFeetTapered", {Tag::Leaf, 55}},
-        {"LinearFeetRadius", {Tag::Leaf, 56}},
-        {"Radius", {Tag::Leaf, 57}},
-        {"SquareFeetOpenings", {Tag::Leaf, 58}},
-        {"LinearFeetBuck", {Tag::Leaf, 59}},
-        {"StraightBlockAdded", {Tag::Leaf, 60}},
-        {"CornerBlockAdded", {Tag::Leaf, 61}},
-        {"CaloraStickLayers", {Tag::Leaf, 62}},
-        {"UseCutBlock", {Tag::Leaf, 63}},
-        {"UseHalfBlock", {Tag::Leaf, 64}},
-        {"UseExtenders", {Tag::Leaf, 65}},
-        {"UsePravex", {Tag::Leaf, 66}},
-        {"PelmoBrickHeight", {Tag::Leaf, 67}},
-        {"PelmoBrickLength", {Tag::Leaf, 68}},
-        {"PelmoPerBlock", {Tag::Leaf, 69}},
-        {"SquareFeetOfWall", {Tag::Leaf, 70}},
-        {"CornersAndTs", {Tag::Leaf, 71}},
-        {"SquareFeetOfOpenings", {Tag::Leaf, 72}},
-        {"LinealFeetCorbelCurbTapered", {Tag::Leaf, 73}},
-        {"RebarComplexity", {Tag::Leaf, 75}},
-        {"CrewExperience", {Tag::Leaf, 76}},
-        {"SiteConditions", {Tag::Leaf, 77}},
-        {"OtherTurns", {Tag::Leaf, 78}},
-        {"LaborCost", {Tag::Leaf, 79}},
-        {"CrewSize", {Tag::Leaf, 80}},
-        {"PartSize", {Tag::Leaf, 81}},
-        {"PartType", {Tag::Leaf, 82}},
-        {"Price", {Tag::Leaf, 83}},
-    };
+    static const ElementTable table = [] {
+        ElementTable elements = {
+            {"Workbook", {Tag::Workbook}},         {"Worksheet", {Tag::Worksheet}},
+            {"ConcreteData", {Tag::ConcreteData}}, {"OpeningData", {Tag::OpeningData}},
+            {"Opening", {Tag::Opening}},           {"RebarData", {Tag::RebarData}},
+            {"TiltData", {Tag::TiltData}},         {"WallData", {Tag::WallData}},
+            {"ManHourData", {Tag::ManHourData}},   {"PriceItem", {Tag::PriceItem}},
+            {"PricingData", {Tag::PricingData}},   {"Measurement", {Tag::Measurement}},
+            {"WallLength", {Tag::WallLength}},     {"WallHeight", {Tag::WallHeight}},
+        };
+        for (const P::Leaf& leaf : P::kWorkbookLeaves)
+            elements.add(leaf.element, {Tag::Leaf, leaf.code});
+        return elements;
+    }();
     return table.find(name);
 }
 
@@ -293,31 +217,31 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
         break;
     case Tag::Measurement:
         if (concrete_)
-            property_ = 11;
+            property_ = P::ConcreteMeasurement;
         else if (rebar_)
-            property_ = 29;
+            property_ = P::RebarMeasurement;
         break;
     case Tag::WallLength:
         if (concrete_)
-            property_ = 21;
+            property_ = P::ConcreteWallLength;
         else if (rebar_)
-            property_ = 30;
+            property_ = P::RebarWallLength;
         else if (tilt_)
-            property_ = 44;
+            property_ = P::TiltWallLength;
         else if (wall_)
-            property_ = 47;
+            property_ = P::WallWallLength;
         break;
     case Tag::WallHeight:
         if (concrete_)
-            property_ = 23;
+            property_ = P::ConcreteWallHeight;
         else if (rebar_)
-            property_ = 37;
+            property_ = P::RebarWallHeight;
         else if (tilt_)
-            property_ = 43;
+            property_ = P::TiltWallHeight;
         else if (wall_)
-            property_ = 46;
+            property_ = P::WallWallHeight;
         else if (manHours_)
-            property_ = 74;
+            property_ = P::ManHoursWallHeight;
         break;
     case Tag::Leaf:
         property_ = element.code;
@@ -406,21 +330,21 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
 // The end of any other element hands the gathered text to whoever takes the current code.
 void ZOLWorkbookReader::applyProperty() {
     switch (property_) {
-    case kProjectName:
+    case P::ProjectName:
         if (workbook_)
             workbook_->setProjectName(text_.value_or(std::string()));
         return;
-    case kClientName:
+    case P::ClientName:
         if (workbook_)
             workbook_->setClientName(text_.value_or(std::string()));
         return;
-    case kProjectDate:
+    case P::ProjectDate:
         // No text means today; text that is no date leaves the project without one.
         if (workbook_)
             workbook_->setProjectDate(text_ ? ZOLDateFormat::parseFileDate(*text_)
                                             : std::optional<int64_t>(ZOLClock::now()));
         return;
-    case kRoundToFullBundles:
+    case P::RoundToFullBundles:
         if (workbook_)
             workbook_->setRoundToFullBundles(ZOLText::boolValue(text_));
         return;

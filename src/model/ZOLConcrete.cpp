@@ -4,6 +4,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLNumeric.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 ZOLConcrete::ZOLConcrete() {
     clear();
@@ -94,46 +95,46 @@ std::string ZOLConcrete::getXMLString() const {
 
 void ZOLConcrete::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 11:
+    case ZOLFileProperty::ConcreteMeasurement:
         if (value == "Imperial")
             measurement_ = 0;
         else if (value == "Metric")
             measurement_ = 1;
         break;
-    case 12:
+    case ZOLFileProperty::FootingWidth:
         footingWidth_ = ZOLText::leadingInt(value);
         break;
-    case 13:
+    case ZOLFileProperty::FootingLength:
         footingLength_ = ZOLText::leadingDouble(value);
         break;
-    case 14:
+    case ZOLFileProperty::FootingDepth:
         footingDepth_ = ZOLText::leadingInt(value);
         break;
-    case 15:
+    case ZOLFileProperty::PileDepth:
         pileDepth_ = ZOLText::leadingDouble(value);
         break;
-    case 16:
+    case ZOLFileProperty::PileDiameter:
         pileDiameter_ = ZOLText::leadingInt(value);
         break;
-    case 17:
+    case ZOLFileProperty::PileCount:
         pileCount_ = ZOLText::leadingInt(value);
         break;
-    case 18:
+    case ZOLFileProperty::SlabLength:
         slabLength_ = ZOLText::leadingDouble(value);
         break;
-    case 19:
+    case ZOLFileProperty::SlabWidth:
         slabWidth_ = ZOLText::leadingDouble(value);
         break;
-    case 20:
+    case ZOLFileProperty::SlabDepth:
         slabDepth_ = ZOLText::leadingInt(value);
         break;
-    case 21:
+    case ZOLFileProperty::ConcreteWallLength:
         wallLength_ = ZOLText::leadingDouble(value);
         break;
-    case 22:
+    case ZOLFileProperty::WallThickness:
         wallThickness_ = ZOLText::leadingInt(value);
         break;
-    case 23:
+    case ZOLFileProperty::ConcreteWallHeight:
         wallHeight_ = ZOLText::leadingDouble(value);
         break;
     default:

@@ -3,6 +3,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
 #include "io/ZOLXMLWriter.h"
+#include "model/ZOLFileProperty.h"
 
 ZOLCustomItem::ZOLCustomItem() {
     clear();
@@ -36,25 +37,25 @@ std::string ZOLCustomItem::getXMLString() const {
 
 void ZOLCustomItem::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 84:
+    case ZOLFileProperty::Name:
         name_ = value;
         break;
-    case 85:
+    case ZOLFileProperty::Quantity:
         quantity_ = ZOLText::leadingDouble(value);
         break;
-    case 86:
+    case ZOLFileProperty::Unit:
         unit_ = value;
         break;
-    case 87:
+    case ZOLFileProperty::Cost:
         cost_ = ZOLText::leadingDouble(value);
         break;
-    case 88:
+    case ZOLFileProperty::TiedToWorkbook:
         tiedToWorkbook_ = ZOLText::boolValue(value);
         break;
-    case 89:
+    case ZOLFileProperty::CalculatorType:
         calculatorType_ = value;
         break;
-    case 90:
+    case ZOLFileProperty::Visible:
         visible_ = ZOLText::boolValue(value);
         break;
     default:

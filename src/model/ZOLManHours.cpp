@@ -4,6 +4,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLNumeric.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 #include <array>
 #include <utility>
@@ -148,37 +149,37 @@ std::string ZOLManHours::getXMLString() const {
 
 void ZOLManHours::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 70:
+    case ZOLFileProperty::SquareFeetOfWall:
         squareFeetOfWall_ = ZOLText::leadingDouble(value);
         break;
-    case 71:
+    case ZOLFileProperty::CornersAndTs:
         cornersAndTs_ = ZOLText::leadingInt(value);
         break;
-    case 72:
+    case ZOLFileProperty::SquareFeetOfOpenings:
         squareFeetOfOpenings_ = ZOLText::leadingDouble(value);
         break;
-    case 73:
+    case ZOLFileProperty::LinealFeetCorbelCurbTapered:
         linearFeetCorbelCurbTapered_ = ZOLText::leadingDouble(value);
         break;
-    case 74:
+    case ZOLFileProperty::ManHoursWallHeight:
         wallHeight_ = ZOLText::leadingDouble(value);
         break;
-    case 75:
+    case ZOLFileProperty::RebarComplexity:
         readWord(value, kComplexityWords, rebarComplexity_);
         break;
-    case 76:
+    case ZOLFileProperty::CrewExperience:
         readWord(value, kExperienceWords, crewExperience_);
         break;
-    case 77:
+    case ZOLFileProperty::SiteConditions:
         readWord(value, kConditionWords, siteConditions_);
         break;
-    case 78:
+    case ZOLFileProperty::OtherTurns:
         otherTurns_ = ZOLText::leadingInt(value);
         break;
-    case 79:
+    case ZOLFileProperty::LaborCost:
         laborCost_ = ZOLText::leadingDouble(value);
         break;
-    case 80:
+    case ZOLFileProperty::CrewSize:
         crewSize_ = ZOLText::leadingInt(value);
         break;
     default:

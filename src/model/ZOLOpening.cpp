@@ -4,6 +4,7 @@
 #include "calc/ZOLOpeningsCalculator.h"
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 using OC = ZOLOpeningsCalculator;
 
@@ -43,19 +44,19 @@ std::string ZOLOpening::getXMLString() const {
 
 void ZOLOpening::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 24:
+    case ZOLFileProperty::RowNumber:
         rowNumber_ = ZOLText::leadingInt(value);
         break;
-    case 25:
+    case ZOLFileProperty::NumberOfOpenings:
         numberOfOpenings_ = ZOLText::leadingInt(value);
         break;
-    case 26:
+    case ZOLFileProperty::OpeningWidth:
         openingWidth_ = ZOLText::leadingDouble(value);
         break;
-    case 27:
+    case ZOLFileProperty::OpeningHeight:
         openingHeight_ = ZOLText::leadingDouble(value);
         break;
-    case 28:
+    case ZOLFileProperty::UseSill:
         useSill_ = ZOLText::boolValue(value);
         break;
     default: // another record's element

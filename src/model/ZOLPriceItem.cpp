@@ -4,38 +4,30 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
 #include "io/ZOLXMLWriter.h"
-
-namespace {
-
-// Extender, HV clips and calora sticks are sold without a size.
-bool isSizeless(int32_t type) {
-    return type == 12 || type == 13 || type == 14;
-}
-
-} // namespace
+#include "model/ZOLFileProperty.h"
 
 ZOLPriceItem::ZOLPriceItem(int32_t type, double withPrice)
-    : partSize_(12), partType_(type), price_(withPrice) {}
+    : partSize_(ZOLWallData::kNoSize), partType_(type), price_(withPrice) {}
 
 ZOLPriceItem::ZOLPriceItem(int32_t size, int32_t withType, double withPrice)
     : partSize_(size), partType_(withType), price_(withPrice) {}
 
 std::string ZOLPriceItem::getPartText() const {
     const std::optional<std::string> name = ZOLWallData::getPartNameWithBlockType(partType_);
-    if (isSizeless(partType_))
+    if (ZOLWallData::isSoldWithoutSize(partType_))
         return name.value_or("(null)");
     return ZOLFormat::format("%d\" %@", partSize_, name);
 }
 
 void ZOLPriceItem::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 81:
+    case ZOLFileProperty::PartSize:
         partSize_ = ZOLWallData::getBlockSizeWithBasicSizeString(value);
         break;
-    case 82:
+    case ZOLFileProperty::PartType:
         partType_ = ZOLWallData::getBlockTypeWithBasicPartString(value);
         break;
-    case 83:
+    case ZOLFileProperty::Price:
         price_ = ZOLText::leadingDouble(value);
         break;
     default:
@@ -45,9 +37,10 @@ void ZOLPriceItem::setValue(const std::optional<std::string>& value, int32_t for
 
 std::string ZOLPriceItem::getXMLString(int32_t depth) const {
     const std::string tabs = ZOLXMLWriter::tabs(depth);
-    // Every accessory (types 12 to 16) is filed under the largest size word,
-    // "Twelve".
-    const int32_t sizeWritten = (partType_ >= 12 && partType_ <= 16) ? 12 : partSize_;
+    // Every accessory is filed under the largest size word, "Twelve".
+    const bool accessory =
+        partType_ >= ZOLWallData::kFirstAccessory && partType_ <= ZOLWallData::kLastAccessory;
+    const int32_t sizeWritten = accessory ? ZOLWallData::kNoSize : partSize_;
     return ZOLFormat::format("%@<PriceItem>\n"
                              "%@\t<PartSize>%@</PartSize>\n"
                              "%@\t<PartType>%@</PartType>\n"

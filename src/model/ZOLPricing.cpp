@@ -5,13 +5,13 @@
 
 ZOLPricing::ZOLPricing() {
     std::vector<std::shared_ptr<ZOLPriceItem>> items;
-    for (int32_t size : {4, 6, 8, 10, 12}) {
-        for (int32_t type = 0; type <= 11; ++type) {
+    for (int32_t size : ZOLWallData::kBlockSizes) {
+        for (int32_t type = 0; type <= ZOLWallData::kLastSizedPartType; ++type) {
             if (ZOLWallData::getValidSizeWithBlockType(type, size))
                 items.push_back(std::make_shared<ZOLPriceItem>(size, type, 0.0));
         }
     }
-    for (int32_t type = 12; type <= 16; ++type)
+    for (int32_t type = ZOLWallData::kFirstAccessory; type <= ZOLWallData::kLastAccessory; ++type)
         items.push_back(std::make_shared<ZOLPriceItem>(type, 0.0));
     priceItems_ = std::move(items);
 }
@@ -41,8 +41,8 @@ bool ZOLPricing::itemAnswers(const ZOLPriceItem& item, int32_t type, int32_t siz
     // for. Pravex and pelmo are stored under size 12 yet looked up by the size
     // asked for, so only a look-up at 12 finds them; price lists in the field
     // depend on this.
-    const bool anySize = type == 12 || type == 13 || type == 14;
-    return item.partType() == type && (anySize || item.partSize() == size);
+    return item.partType() == type &&
+           (ZOLWallData::isSoldWithoutSize(type) || item.partSize() == size);
 }
 
 std::vector<std::shared_ptr<ZOLPriceItem>> ZOLPricing::savedItems() const {
@@ -64,8 +64,8 @@ bool ZOLPricing::savedItemsChangePrices() const {
     saved.priceItems_ = savedItems();
     if (saved.priceItems_.empty())
         return false;
-    for (int32_t size : {4, 6, 8, 10, 12})
-        for (int32_t type = 0; type <= 16; ++type)
+    for (int32_t size : ZOLWallData::kBlockSizes)
+        for (int32_t type = 0; type < ZOLWallData::kPartTypeCount; ++type)
             if (saved.getPriceForItemType(type, size) != getPriceForItemType(type, size))
                 return true;
     return false;

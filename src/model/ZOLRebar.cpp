@@ -3,6 +3,7 @@
 #include "calc/ZOLRebarCalculator.h"
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 ZOLRebar::ZOLRebar() {
     clear();
@@ -70,50 +71,50 @@ std::string ZOLRebar::getXMLString() const {
 
 void ZOLRebar::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     switch (forProperty) {
-    case 29:
+    case ZOLFileProperty::RebarMeasurement:
         // Only the two words the writer produces change the system; anything else is kept.
         if (value == "Imperial")
             measurement_ = 0;
         else if (value == "Metric")
             measurement_ = 1;
         break;
-    case 30:
+    case ZOLFileProperty::RebarWallLength:
         wallLength_ = ZOLText::leadingDouble(value);
         break;
-    case 31:
+    case ZOLFileProperty::HorizontalSize1:
         horizontalSize1_ = ZOLText::leadingInt(value);
         break;
-    case 32:
+    case ZOLFileProperty::HorizontalRowCount1:
         horizontalRowCount1_ = ZOLText::leadingInt(value);
         break;
-    case 33:
+    case ZOLFileProperty::HorizontalLap1:
         horizontalLap1_ = ZOLText::leadingInt(value);
         break;
-    case 34:
+    case ZOLFileProperty::HorizontalSize2:
         horizontalSize2_ = ZOLText::leadingInt(value);
         break;
-    case 35:
+    case ZOLFileProperty::HorizontalRowCount2:
         horizontalRowCount2_ = ZOLText::leadingInt(value);
         break;
-    case 36:
+    case ZOLFileProperty::HorizontalLap2:
         horizontalLap2_ = ZOLText::leadingInt(value);
         break;
-    case 37:
+    case ZOLFileProperty::RebarWallHeight:
         wallHeight_ = ZOLText::leadingDouble(value);
         break;
-    case 38:
+    case ZOLFileProperty::VerticalSize:
         verticalSize_ = ZOLText::leadingInt(value);
         break;
-    case 39:
+    case ZOLFileProperty::VerticalSpacing:
         verticalSpacing_ = ZOLText::leadingInt(value);
         break;
-    case 40:
+    case ZOLFileProperty::DowelSize:
         dowelSize_ = ZOLText::leadingInt(value);
         break;
-    case 41:
+    case ZOLFileProperty::DowelSpacing:
         dowelSpacing_ = ZOLText::leadingInt(value);
         break;
-    case 42:
+    case ZOLFileProperty::DowelLength:
         dowelLength_ = ZOLText::leadingInt(value);
         break;
     default:

@@ -3,6 +3,7 @@
 #include "calc/ZOLTiltCalculator.h"
 #include "io/ZOLFormat.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 ZOLTilt::ZOLTilt() {
     clear();
@@ -46,8 +47,8 @@ std::string ZOLTilt::getXMLString() const {
 }
 
 void ZOLTilt::setValue(const std::optional<std::string>& value, int32_t forProperty) {
-    if (forProperty == 43)
+    if (forProperty == ZOLFileProperty::TiltWallHeight)
         wallHeight_ = ZOLText::leadingDouble(value);
-    else if (forProperty == 44)
+    else if (forProperty == ZOLFileProperty::TiltWallLength)
         wallLength_ = ZOLText::leadingDouble(value);
 }

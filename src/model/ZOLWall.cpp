@@ -6,6 +6,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLNumeric.h"
 #include "io/ZOLText.h"
+#include "model/ZOLFileProperty.h"
 
 using WC = ZOLWallCalculator;
 using WD = ZOLWallData;
@@ -16,7 +17,7 @@ ZOLWall::ZOLWall() {
 }
 
 void ZOLWall::clear() {
-    blockSize_ = 8;
+    blockSize_ = WD::kDefaultBlockSize;
     wallHeight_ = 8.0;
     wallLength_ = 0.0;
     insideCornerLocations_ = 0;
@@ -143,7 +144,7 @@ int32_t ZOLWall::angleOrTBlocks(int32_t type, int32_t locations, int32_t rows) c
 }
 
 int32_t ZOLWall::radiusBlocks(int32_t rows) const {
-    if (!WD::getValidSizeWithBlockType(10, blockSize_))
+    if (!WD::getValidSizeWithBlockType(WD::Radius, blockSize_))
         return 0;
     return WC::calculateRadiusBlockWithLinearFeetOfRadius(linearFeetRadius_, rows);
 }
@@ -162,8 +163,8 @@ ZOLWall::BlockCounts ZOLWall::blockCounts() const {
     const int32_t cornerCourse = oneCourseCornerBlocks();
     c.straightHalf = useHalfBlock_ ? straightCourse : 0;
     c.cornerHalf = useHalfBlock_ ? cornerCourse : 0;
-    c.angle = angleOrTBlocks(4, angleLocations_, rows);
-    c.t = angleOrTBlocks(7, tBlockLocations_, rows);
+    c.angle = angleOrTBlocks(WD::Angle, angleLocations_, rows);
+    c.t = angleOrTBlocks(WD::TBlock, tBlockLocations_, rows);
     c.straightCurb = getStraightCurbBlocks();
     c.cornerCurb = getCornerCurbBlocks();
     c.corbel = getCorbelBlocks();
@@ -179,7 +180,7 @@ int32_t ZOLWall::getStraightBlocks() const {
     const int32_t rows = getRows();
     const double cornersAndTs = linearFeetOfCornersAndTs();
     const int32_t cut = useCutBlock_ ? cutPieces(oneCourseStraightBlocks(cornersAndTs)) : 0;
-    return straightBlocks(rows, cornersAndTs, angleOrTBlocks(4, angleLocations_, rows),
+    return straightBlocks(rows, cornersAndTs, angleOrTBlocks(WD::Angle, angleLocations_, rows),
                           getStraightCurbBlocks(), getTaperedBlocks(), getCorbelBlocks(), cut);
 }
 
@@ -204,31 +205,31 @@ int32_t ZOLWall::getCornerCutBlocks() const {
 }
 
 int32_t ZOLWall::getAngleBlocks() const {
-    return angleOrTBlocks(4, angleLocations_, getRows());
+    return angleOrTBlocks(WD::Angle, angleLocations_, getRows());
 }
 
 int32_t ZOLWall::getTBlocks() const {
-    return angleOrTBlocks(7, tBlockLocations_, getRows());
+    return angleOrTBlocks(WD::TBlock, tBlockLocations_, getRows());
 }
 
 int32_t ZOLWall::getStraightCurbBlocks() const {
-    if (!WD::getValidSizeWithBlockType(5, blockSize_))
+    if (!WD::getValidSizeWithBlockType(WD::StraightCurb, blockSize_))
         return 0;
     return WC::calculateStraightCurbBlockWithLinearFeet(linearFeetCurb_);
 }
 
 int32_t ZOLWall::getCornerCurbBlocks() const {
-    return WD::getValidSizeWithBlockType(6, blockSize_) ? curbCornerLocations_ : 0;
+    return WD::getValidSizeWithBlockType(WD::CornerCurb, blockSize_) ? curbCornerLocations_ : 0;
 }
 
 int32_t ZOLWall::getCorbelBlocks() const {
-    if (!WD::getValidSizeWithBlockType(8, blockSize_))
+    if (!WD::getValidSizeWithBlockType(WD::Corbel, blockSize_))
         return 0;
     return WC::calculateCorbelOrTaperedBlockWithLinearFeet(linearFeetCorbel_);
 }
 
 int32_t ZOLWall::getTaperedBlocks() const {
-    if (!WD::getValidSizeWithBlockType(9, blockSize_))
+    if (!WD::getValidSizeWithBlockType(WD::Tapered, blockSize_))
         return 0;
     return WC::calculateCorbelOrTaperedBlockWithLinearFeet(linearFeetTapered_);
 }
@@ -288,12 +289,15 @@ int32_t ZOLWall::getPelmos() const {
 // ---- Shipping, concrete and steel
 
 double ZOLWall::getTrucks() const {
-    const std::array<int32_t, 17> counts = partCounts();
+    const std::array<int32_t, WD::kPartTypeCount> counts = partCounts();
     auto b = [this, &counts](int32_t type) {
         return WC::calculateBundlesWithBlockSize(blockSize_, type, counts[type]);
     };
-    return WC::calculateTrucksWithBlockSize(blockSize_, b(0), b(1), b(2), b(3), b(4), b(7), b(5),
-                                            b(6), b(8), b(9), b(10), b(11), b(12), b(13), b(14));
+    return WC::calculateTrucksWithBlockSize(
+        blockSize_, b(WD::Straight), b(WD::StraightHalf), b(WD::Corner), b(WD::CornerHalf),
+        b(WD::Angle), b(WD::TBlock), b(WD::StraightCurb), b(WD::CornerCurb), b(WD::Corbel),
+        b(WD::Tapered), b(WD::Radius), b(WD::Buck), b(WD::Extender), b(WD::HVClips),
+        b(WD::CaloraSticks));
 }
 
 double ZOLWall::getConcreteYards() const {
@@ -314,7 +318,7 @@ double ZOLWall::getLinearFeetRebar() const {
 }
 
 double ZOLWall::getTotalPartsWeight() const {
-    const std::array<int32_t, 17> counts = partCounts();
+    const std::array<int32_t, WD::kPartTypeCount> counts = partCounts();
     double weight = 0.0;
     for (int32_t type = 0; type < WD::kPartTypeCount; ++type)
         weight += WC::calculateBlockWeightWithBlockSize(blockSize_, type, counts[type]);
@@ -323,7 +327,7 @@ double ZOLWall::getTotalPartsWeight() const {
 
 // ---- Per part type
 
-std::array<int32_t, 17> ZOLWall::partCounts() const {
+std::array<int32_t, WD::kPartTypeCount> ZOLWall::partCounts() const {
     // The same table as getPartCountWithPartType, with the block counts shared.
     const BlockCounts c = blockCounts();
     return {c.straight,
@@ -347,37 +351,37 @@ std::array<int32_t, 17> ZOLWall::partCounts() const {
 
 int32_t ZOLWall::getPartCountWithPartType(int32_t partType) const {
     switch (partType) {
-    case 0:
+    case WD::Straight:
         return getStraightBlocks();
-    case 1:
+    case WD::StraightHalf:
         return getStraightHalfBlocks();
-    case 2:
+    case WD::Corner:
         return getCornerBlocks();
-    case 3:
+    case WD::CornerHalf:
         return getCornerHalfBlocks();
-    case 4:
+    case WD::Angle:
         return getAngleBlocks();
-    case 5:
+    case WD::StraightCurb:
         return getStraightCurbBlocks();
-    case 6:
+    case WD::CornerCurb:
         return getCornerCurbBlocks();
-    case 7:
+    case WD::TBlock:
         return getTBlocks();
-    case 8:
+    case WD::Corbel:
         return getCorbelBlocks();
-    case 9:
+    case WD::Tapered:
         return getTaperedBlocks();
-    case 11:
+    case WD::Buck:
         return getZolBuck();
-    case 12:
+    case WD::Extender:
         return getExtenders();
-    case 13:
+    case WD::HVClips:
         return getHVClips();
-    case 14:
+    case WD::CaloraSticks:
         return getCaloraSticks();
-    case 15:
+    case WD::Pravex:
         return getPravexes();
-    case 16:
+    case WD::Pelmo:
         return getPelmos();
     default:
         // Radius blocks are shown by getRadiusBlocks but are never ordered by part type: they
@@ -443,79 +447,79 @@ std::string ZOLWall::getXMLString() const {
 void ZOLWall::setValue(const std::optional<std::string>& value, int32_t forProperty) {
     using T = ZOLText;
     switch (forProperty) {
-    case 45:
+    case ZOLFileProperty::BlockSize:
         blockSize_ = WD::getBlockSizeWithBasicSizeString(value);
         break;
-    case 46:
+    case ZOLFileProperty::WallWallHeight:
         wallHeight_ = T::leadingDouble(value);
         break;
-    case 47:
+    case ZOLFileProperty::WallWallLength:
         wallLength_ = T::leadingDouble(value);
         break;
-    case 48:
+    case ZOLFileProperty::InsideCornerLocations:
         insideCornerLocations_ = T::leadingInt(value);
         break;
-    case 49:
+    case ZOLFileProperty::OutsideCornerLocations:
         outsideCornerLocations_ = T::leadingInt(value);
         break;
-    case 50:
+    case ZOLFileProperty::AngleLocations:
         angleLocations_ = T::leadingInt(value);
         break;
-    case 51:
+    case ZOLFileProperty::TBlockLocations:
         tBlockLocations_ = T::leadingInt(value);
         break;
-    case 52:
+    case ZOLFileProperty::LinearFeetCorbel:
         linearFeetCorbel_ = T::leadingDouble(value);
         break;
-    case 53:
+    case ZOLFileProperty::LinearFeetCurb:
         linearFeetCurb_ = T::leadingDouble(value);
         break;
-    case 54:
+    case ZOLFileProperty::CurbCornerLocations:
         curbCornerLocations_ = T::leadingInt(value);
         break;
-    case 55:
+    case ZOLFileProperty::LinearFeetTapered:
         linearFeetTapered_ = T::leadingDouble(value);
         break;
-    case 56:
+    case ZOLFileProperty::LinearFeetRadius:
         linearFeetRadius_ = T::leadingDouble(value);
         break;
-    case 57:
+    case ZOLFileProperty::Radius:
         radius_ = T::leadingInt(value);
         break;
-    case 58:
+    case ZOLFileProperty::SquareFeetOpenings:
         sqftOpenings_ = T::leadingDouble(value);
         break;
-    case 59:
+    case ZOLFileProperty::LinearFeetBuck:
         linearFeetBuck_ = T::leadingDouble(value);
         break;
-    case 60:
+    case ZOLFileProperty::StraightBlockAdded:
         straightBlockAdded_ = T::leadingInt(value);
         break;
-    case 61:
+    case ZOLFileProperty::CornerBlockAdded:
         cornerBlockAdded_ = T::leadingInt(value);
         break;
-    case 62:
+    case ZOLFileProperty::CaloraStickLayers:
         caloraStickLayers_ = T::leadingInt(value);
         break;
-    case 63:
+    case ZOLFileProperty::UseCutBlock:
         useCutBlock_ = T::boolValue(value);
         break;
-    case 64:
+    case ZOLFileProperty::UseHalfBlock:
         useHalfBlock_ = T::boolValue(value);
         break;
-    case 65:
+    case ZOLFileProperty::UseExtenders:
         useExtenders_ = T::boolValue(value);
         break;
-    case 66:
+    case ZOLFileProperty::UsePravex:
         usePravex_ = T::boolValue(value);
         break;
-    case 67:
+    case ZOLFileProperty::PelmoBrickHeight:
         pelmoBrickHeight_ = T::leadingDouble(value);
         break;
-    case 68:
+    case ZOLFileProperty::PelmoBrickLength:
         pelmoBrickLength_ = T::leadingDouble(value);
         break;
-    case 69:
+    case ZOLFileProperty::PelmoPerBlock:
         pelmoPerBlock_ = T::leadingInt(value);
         break;
     default: // another record's element

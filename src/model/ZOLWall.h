@@ -1,4 +1,6 @@
 #pragma once
+#include "calc/ZOLWallData.h"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -128,7 +130,7 @@ private:
     static int32_t hvClipsOf(const BlockCounts& c);
     static int32_t caloraSticksOf(const BlockCounts& c, int32_t layers);
     // Every part type's count from one pass, for the queries that need all of them.
-    std::array<int32_t, 17> partCounts() const;
+    std::array<int32_t, ZOLWallData::kPartTypeCount> partCounts() const;
     int32_t oneCourseStraightBlocks(double cornersAndTs) const;
     int32_t oneCourseCornerBlocks() const;
     int32_t straightBlocks(int32_t rows, double cornersAndTs, int32_t angle, int32_t curb,

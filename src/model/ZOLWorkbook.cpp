@@ -20,8 +20,6 @@
 
 namespace {
 
-const int32_t kBlockSizes[] = {4, 6, 8, 10, 12};
-
 std::shared_ptr<ZOLCustomItem> generatedLine(const char* calculatorType, std::string name,
                                              const char* unit) {
     auto line = std::make_shared<ZOLCustomItem>();
@@ -44,17 +42,6 @@ collect(const ZOLWorkbook::Worksheets& worksheets,
             records.push_back(((*sheet).*record)());
     }
     return records;
-}
-
-// The name a generated rebar line gives a bar size. The summary reads the stored size as the
-// list position itself (size 1 reads "#5"), as the printed rebar page does. Imperial size 5
-// and Metric sizes 4 and 5 (and any size a damaged file may hold) have no entry there; their
-// steel still gets its line, with an empty size name (" Rebar"), rather than the summary
-// dropping linear feet the user entered or failing.
-std::string rebarSizeName(const std::vector<std::string>& sizes, int32_t index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= sizes.size())
-        return std::string();
-    return sizes[static_cast<std::size_t>(index)];
 }
 
 const std::string kWallType = "Wall";
@@ -106,30 +93,9 @@ void ZOLWorkbook::addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet) {
     worksheets_ = std::move(sheets);
 }
 
-void ZOLWorkbook::addWorksheets(const Worksheets& worksheets) {
-    // Copied first: the argument may be this workbook's own list.
-    const Worksheets toAdd = worksheets;
-    for (const auto& sheet : toAdd)
-        addWorksheetsObject(sheet);
-}
-
 bool ZOLWorkbook::worksheetExistsWithName(const std::string& name) const {
     return std::any_of(worksheets_.begin(), worksheets_.end(),
                        [&](const auto& sheet) { return sheet && sheet->name() == name; });
-}
-
-void ZOLWorkbook::changeWorksheetNameWithOldName(const std::string& oldName,
-                                                 const std::string& WithNewName) {
-    if (worksheetExistsWithName(WithNewName)) {
-        alertDuplicateName();
-        return;
-    }
-    for (const auto& sheet : worksheets_) {
-        if (sheet && sheet->name() == oldName) {
-            sheet->setName(WithNewName);
-            return;
-        }
-    }
 }
 
 double ZOLWorkbook::getTotalGrossSquareFeet() const {
@@ -195,10 +161,10 @@ ZOLWorkbook::getWallSummaryItemForWalls(const std::vector<std::shared_ptr<ZOLWal
     // Deliberately shared by every part below: an accessory without a price item
     // is charged at the price of the part priced just before it.
     double price = 0.0;
-    for (int32_t size : kBlockSizes) {
+    for (int32_t size : ZOLWallData::kBlockSizes) {
         if (!workbookUsesSize(size))
             continue;
-        for (int32_t type = 0; type <= 11; ++type) {
+        for (int32_t type = 0; type <= ZOLWallData::kLastSizedPartType; ++type) {
             if (!ZOLWallData::getValidSizeWithBlockType(type, size))
                 continue;
             int32_t count = 0;
@@ -221,7 +187,8 @@ ZOLWorkbook::getWallSummaryItemForWalls(const std::vector<std::shared_ptr<ZOLWal
         // The accessories of all walls, priced whatever their size, once for every
         // block size the job uses: a job of two sizes counts and charges them
         // twice.
-        for (int32_t type = 12; type <= 16; ++type) {
+        for (int32_t type = ZOLWallData::kFirstAccessory; type <= ZOLWallData::kLastAccessory;
+             ++type) {
             int32_t count = 0;
             for (const auto& wall : walls) {
                 if (wall)
@@ -255,10 +222,7 @@ ZOLWorkbook::CustomItems
 ZOLWorkbook::getRebarSummaryItemsForRebars(const std::vector<std::shared_ptr<ZOLRebar>>& rebars,
                                            bool visible) {
     CustomItems lines;
-    const std::vector<std::string> sizeLists[] = {ZOLRebarCalculator::getImperialRebarSizes(),
-                                                  ZOLRebarCalculator::getMetricRebarSizes()};
     for (int32_t measurement = 0; measurement <= 1; ++measurement) {
-        const auto& sizes = sizeLists[measurement];
         for (int32_t index = 1; index <= 5; ++index) {
             for (const auto& rebar : rebars) {
                 if (!rebar || rebar->measurement() != measurement)
@@ -274,8 +238,14 @@ ZOLWorkbook::getRebarSummaryItemsForRebars(const std::vector<std::shared_ptr<ZOL
                     length += rebar->getVerticalLength();
                 if (!(length > 0.0))
                     continue;
+                // The line names the size as the printed rebar page does. A size with no
+                // name there still gets its line (" Rebar") rather than the summary dropping
+                // linear feet the user entered.
                 auto line = generatedLine(
-                    "Rebar", ZOLFormat::format("%@ Rebar", rebarSizeName(sizes, index)),
+                    "Rebar",
+                    ZOLFormat::format("%@ Rebar",
+                                      ZOLRebarCalculator::getPrintedRebarSizeNameWithMeasurement(
+                                          measurement, index)),
                     "Linear Feet");
                 line->setQuantity(length);
                 line->setVisible(visible);

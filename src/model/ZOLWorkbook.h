@@ -68,12 +68,7 @@ public:
     // raises the alert "A worksheet with that name already exists." and changes
     // nothing.
     void addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet);
-    // Each worksheet in turn, each refused on its own.
-    void addWorksheets(const Worksheets& worksheets);
     bool worksheetExistsWithName(const std::string& name) const;
-    // Renames the first worksheet called oldName, unless newName is taken (the
-    // alert again; renaming a worksheet to its own name is refused too).
-    void changeWorksheetNameWithOldName(const std::string& oldName, const std::string& WithNewName);
 
     double getTotalGrossSquareFeet() const;
     double getTotalNetSquareFeet() const;

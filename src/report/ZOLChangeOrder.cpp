@@ -59,10 +59,8 @@ Shown measurement(int32_t v) {
 
 // A bar size by the name the rebar screen lists it under, or its number when the list has none.
 Shown barSize(int32_t measurementCode, int32_t size) {
-    const auto sizes = measurementCode == 0 ? ZOLRebarCalculator::getImperialRebarSizes()
-                                            : ZOLRebarCalculator::getMetricRebarSizes();
-    if (size >= 1 && static_cast<std::size_t>(size) <= sizes.size())
-        return {static_cast<double>(size), sizes[static_cast<std::size_t>(size) - 1]};
+    if (auto name = ZOLRebarCalculator::getRebarSizeNameWithMeasurement(measurementCode, size))
+        return {static_cast<double>(size), *name};
     return whole(size);
 }
 

@@ -12,8 +12,6 @@
 
 namespace {
 
-constexpr int32_t kPartTypes = 17;
-
 void appendRow(std::string& csv, std::initializer_list<std::string> fields) {
     bool first = true;
     for (const std::string& text : fields) {
@@ -61,7 +59,7 @@ std::string ZOLCsvExport::getOrderListCSV(const ZOLWorkbook& workbook) {
             continue;
         const ZOLWall& wall = *sheet->wallData();
         // The columns of the Block Info tab, whose weight is that of the full bundles ordered.
-        for (int32_t type = 0; type < kPartTypes; ++type) {
+        for (int32_t type = 0; type < ZOLWallData::kPartTypeCount; ++type) {
             const int32_t partCount = wall.getPartCountWithPartType(type);
             if (partCount == 0)
                 continue;

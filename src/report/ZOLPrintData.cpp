@@ -387,28 +387,23 @@ std::string ZOLPrintData::getOpeningsHTML(const std::shared_ptr<ZOLOpenings>& op
 
 namespace {
 
-// The rebar page names a stored size by the entry at that position of the size list, one
-// further along than the rebar screen's own naming: stored size 1 prints "#5" ("15M"). A
-// size with no entry at its position (Imperial 5 and up, Metric 4 and up, or a negative size
-// from a damaged file) prints no name rather than another bar's.
-std::string rebarSizeName(const std::vector<std::string>& sizes, int32_t size) {
-    if (size < 0 || static_cast<std::size_t>(size) >= sizes.size())
-        return std::string();
-    return sizes[static_cast<std::size_t>(size)];
+std::string rebarSizeName(int32_t measurement, int32_t size) {
+    return ZOLRebarCalculator::getPrintedRebarSizeNameWithMeasurement(measurement, size);
 }
 
 // One total line when both bars are the same size, else one line a size, the smaller first.
-std::string rebarTotals(const std::vector<std::string>& sizes, int32_t sizeA, double lengthA,
-                        int32_t sizeB, double lengthB) {
+std::string rebarTotals(int32_t measurement, int32_t sizeA, double lengthA, int32_t sizeB,
+                        double lengthB) {
     if (sizeA == sizeB)
-        return ZOLFormat::format("<p>%@\t\t%@</p>\n", rebarSizeName(sizes, sizeA),
+        return ZOLFormat::format("<p>%@\t\t%@</p>\n", rebarSizeName(measurement, sizeA),
                                  feet(lengthA + lengthB));
     if (sizeB < sizeA) {
         std::swap(sizeA, sizeB);
         std::swap(lengthA, lengthB);
     }
-    return ZOLFormat::format("<p>%@\t\t%@</p>\n<p>%@\t\t%@</p>\n", rebarSizeName(sizes, sizeA),
-                             feet(lengthA), rebarSizeName(sizes, sizeB), feet(lengthB));
+    return ZOLFormat::format("<p>%@\t\t%@</p>\n<p>%@\t\t%@</p>\n",
+                             rebarSizeName(measurement, sizeA), feet(lengthA),
+                             rebarSizeName(measurement, sizeB), feet(lengthB));
 }
 
 } // namespace
@@ -416,26 +411,25 @@ std::string rebarTotals(const std::vector<std::string>& sizes, int32_t sizeA, do
 std::string ZOLPrintData::getRebarHTML(const std::shared_ptr<ZOLRebar>& rebar,
                                        const std::string& projectInfo) {
     const auto r = orFresh(rebar);
-    const std::vector<std::string> sizes = r->measurement() == 0
-                                               ? ZOLRebarCalculator::getImperialRebarSizes()
-                                               : ZOLRebarCalculator::getMetricRebarSizes();
+    const int32_t measurement = r->measurement();
     std::string html = ZOLFormat::format(
         "<div class=\"page\">\n<div class=\"content rebar\">\n<h1>Rebar</h1>\n%@\n<p>Linear "
         "Feet of Wall: %@</p>\n<div class=\"rebar-type\">\n<h2>Horizontal Rebar</h2>\n<p>%d "
         "Rows of %@, with %d\" lap splice</p>\n<p>%d Rows of %@, with %d\" lap "
         "splice</p>\n<h3>Total Horizontal Rebar</h3>\n",
         projectInfo, feet(r->wallLength()), r->horizontalRowCount1(),
-        rebarSizeName(sizes, r->horizontalSize1()), r->horizontalLap1(), r->horizontalRowCount2(),
-        rebarSizeName(sizes, r->horizontalSize2()), r->horizontalLap2());
-    html += rebarTotals(sizes, r->horizontalSize1(), r->getHorizontalLength1(),
+        rebarSizeName(measurement, r->horizontalSize1()), r->horizontalLap1(),
+        r->horizontalRowCount2(), rebarSizeName(measurement, r->horizontalSize2()),
+        r->horizontalLap2());
+    html += rebarTotals(measurement, r->horizontalSize1(), r->getHorizontalLength1(),
                         r->horizontalSize2(), r->getHorizontalLength2());
     html += ZOLFormat::format(
         "</div>\n<div class=\"rebar-type\">\n<h2>Vertical Rebar</h2>\n<p>Wall Height: "
         "%@</p>\n<p>%@ Vertical with %d Spacing</p>\n<p>%@ Dowel with %d Spacing</p>\n<h3>Total "
         "Vertical Rebar</h3>\n",
-        feet(r->wallHeight()), rebarSizeName(sizes, r->verticalSize()), r->verticalSpacing(),
-        rebarSizeName(sizes, r->dowelSize()), r->dowelSpacing());
-    html += rebarTotals(sizes, r->verticalSize(), r->getVerticalLength(), r->dowelSize(),
+        feet(r->wallHeight()), rebarSizeName(measurement, r->verticalSize()), r->verticalSpacing(),
+        rebarSizeName(measurement, r->dowelSize()), r->dowelSpacing());
+    html += rebarTotals(measurement, r->verticalSize(), r->getVerticalLength(), r->dowelSize(),
                         r->getDowelLength());
     html += "</div></div></div>";
     return html;
@@ -531,25 +525,29 @@ std::string ZOLPrintData::getWallHTML(const std::shared_ptr<ZOLWall>& wall,
 
     // The parts table opens with the information table still open.
     static const PartRow parts[] = {
-        {"Total Number of Straight Block:", &ZOLWall::getStraightBlocks, 0},
-        {"Total Number of Straight 1/2 Block:", &ZOLWall::getStraightHalfBlocks, 1},
-        {"Total Number of 90° Corner Block:", &ZOLWall::getCornerBlocks, 2},
-        {"Total Number of 90° Corner 1/2 Block:", &ZOLWall::getCornerHalfBlocks, 3},
-        {"Total Number of 45° Angle Block:", &ZOLWall::getAngleBlocks, 4},
-        {"Total Number of T-Block:", &ZOLWall::getTBlocks, 7},
-        {"Total Number of Straight Curb Block:", &ZOLWall::getStraightCurbBlocks, 5},
-        {"Total Number of 90° Corner Curb Block:", &ZOLWall::getCornerCurbBlocks, 6},
-        {"Total Number of Corbel Block:", &ZOLWall::getCorbelBlocks, 8},
-        {"Total Number of Tapered Block:", &ZOLWall::getTaperedBlocks, 9},
-        {"Total Number of 6\" Radius Block:", &ZOLWall::getRadiusBlocks, 10},
+        {"Total Number of Straight Block:", &ZOLWall::getStraightBlocks, ZOLWallData::Straight},
+        {"Total Number of Straight 1/2 Block:", &ZOLWall::getStraightHalfBlocks,
+         ZOLWallData::StraightHalf},
+        {"Total Number of 90° Corner Block:", &ZOLWall::getCornerBlocks, ZOLWallData::Corner},
+        {"Total Number of 90° Corner 1/2 Block:", &ZOLWall::getCornerHalfBlocks,
+         ZOLWallData::CornerHalf},
+        {"Total Number of 45° Angle Block:", &ZOLWall::getAngleBlocks, ZOLWallData::Angle},
+        {"Total Number of T-Block:", &ZOLWall::getTBlocks, ZOLWallData::TBlock},
+        {"Total Number of Straight Curb Block:", &ZOLWall::getStraightCurbBlocks,
+         ZOLWallData::StraightCurb},
+        {"Total Number of 90° Corner Curb Block:", &ZOLWall::getCornerCurbBlocks,
+         ZOLWallData::CornerCurb},
+        {"Total Number of Corbel Block:", &ZOLWall::getCorbelBlocks, ZOLWallData::Corbel},
+        {"Total Number of Tapered Block:", &ZOLWall::getTaperedBlocks, ZOLWallData::Tapered},
+        {"Total Number of 6\" Radius Block:", &ZOLWall::getRadiusBlocks, ZOLWallData::Radius},
         // The extenders' label has no colon.
-        {"Total Number of 4\" Extenders", &ZOLWall::getExtenders, 12},
+        {"Total Number of 4\" Extenders", &ZOLWall::getExtenders, ZOLWallData::Extender},
         // Clips are ordered in bundles: the row shows bundles, weighed as clips.
-        {"Total Number of Zol Block HV Clips:", nullptr, 13},
-        {"Total Number of R9 Calora Sticks:", &ZOLWall::getCaloraSticks, 14},
-        {"Total Number of Zol Buck:", &ZOLWall::getZolBuck, 11},
-        {"Total Number of Pravex:", &ZOLWall::getPravexes, 15},
-        {"Total Number of pelmo:", &ZOLWall::getPelmos, 16},
+        {"Total Number of Zol Block HV Clips:", nullptr, ZOLWallData::HVClips},
+        {"Total Number of R9 Calora Sticks:", &ZOLWall::getCaloraSticks, ZOLWallData::CaloraSticks},
+        {"Total Number of Zol Buck:", &ZOLWall::getZolBuck, ZOLWallData::Buck},
+        {"Total Number of Pravex:", &ZOLWall::getPravexes, ZOLWallData::Pravex},
+        {"Total Number of pelmo:", &ZOLWall::getPelmos, ZOLWallData::Pelmo},
     };
     html += "<table>\n<tr>\n<th>Parts:</th>\n<th></th>\n<th>Weights:</th>\n</tr>\n";
     double totalWeight = 0.0;

@@ -13,11 +13,7 @@
 
 namespace {
 
-constexpr int32_t kBlockSizes[] = {4, 6, 8, 10, 12};
-constexpr int32_t kLastBlockType = 11;
-constexpr int32_t kFirstAccessory = 12;
-constexpr int32_t kLastAccessory = 16;
-constexpr int32_t kClips = 13;
+using WD = ZOLWallData;
 
 double perSquareFoot(double cost, double grossSquareFeet) {
     return grossSquareFeet > 0.0 ? cost / grossSquareFeet : 0.0;
@@ -51,22 +47,22 @@ ZOLWorkbookSummary::Summary ZOLWorkbookSummary::summarize(const ZOLWorkbook& wor
 
     // Blocks, size by size (only the sizes some wall uses), each count over the walls of that
     // size.
-    for (int32_t size : kBlockSizes) {
+    for (int32_t size : WD::kBlockSizes) {
         bool used = false;
         for (const auto& wall : walls)
             used = used || wall->blockSize() == size;
         if (!used)
             continue;
-        for (int32_t type = 0; type <= kLastBlockType; ++type) {
-            if (!ZOLWallData::getValidSizeWithBlockType(type, size))
+        for (int32_t type = 0; type <= WD::kLastSizedPartType; ++type) {
+            if (!WD::getValidSizeWithBlockType(type, size))
                 continue;
             int32_t quantity = 0;
             for (const auto& wall : walls)
                 if (wall->blockSize() == size)
                     quantity = ZOLNumeric::wrapAdd(quantity, wall->getPartCountWithPartType(type));
             if (quantity != 0)
-                add(ZOLFormat::format("%d\" %@", size, ZOLWallData::getPartNameWithBlockType(type)),
-                    type, size, quantity);
+                add(ZOLFormat::format("%d\" %@", size, WD::getPartNameWithBlockType(type)), type,
+                    size, quantity);
         }
     }
     // Without a single block there is nothing to price: no accessories, no sign, no totals.
@@ -75,15 +71,15 @@ ZOLWorkbookSummary::Summary ZOLWorkbookSummary::summarize(const ZOLWorkbook& wor
 
     // Accessories fit every size: one row each over all walls, priced and weighed at the 4"
     // entry. Clips are counted, priced and weighed in bundles.
-    for (int32_t type = kFirstAccessory; type <= kLastAccessory; ++type) {
+    for (int32_t type = WD::kFirstAccessory; type <= WD::kLastAccessory; ++type) {
         int32_t quantity = 0;
         for (const auto& wall : walls)
-            quantity = ZOLNumeric::wrapAdd(quantity, type == kClips
-                                                         ? wall->getTotalBundlesWithPartType(kClips)
+            quantity = ZOLNumeric::wrapAdd(quantity, type == WD::HVClips
+                                                         ? wall->getTotalBundlesWithPartType(type)
                                                          : wall->getPartCountWithPartType(type));
         if (quantity != 0)
-            add(ZOLFormat::format("%@", ZOLWallData::getPartNameWithBlockType(type)), type, 4,
-                quantity);
+            add(ZOLFormat::format("%@", WD::getPartNameWithBlockType(type)), type,
+                WD::kBlockSizes.front(), quantity);
     }
     summary.squareFootCost = perSquareFoot(summary.totalCost, summary.grossSquareFeet);
     return summary;

@@ -1,4 +1,5 @@
 #pragma once
+#include "calc/ZOLWallData.h"
 #include "ui/ZOLTableModel.h"
 
 #include <memory>
@@ -14,8 +15,8 @@ class ZOLBlockInfoTableModel : public ZOLTableModel {
 public:
     enum Column { Part, ActualBlockCount, PerBundle, Rounded, TotalBundles, Weight };
 
-    // One row per part type.
-    static constexpr int kRowCount = 17;
+    // One row per part type, radius blocks and accessories included.
+    static constexpr int kRowCount = ZOLWallData::kPartTypeCount;
 
     explicit ZOLBlockInfoTableModel(QObject* parent = nullptr);
 

@@ -97,14 +97,14 @@ void ZOLRebarEntryViewController::loadValues() {
 }
 
 QString ZOLRebarEntryViewController::sizeName(int32_t size) {
-    const auto names = sizeList(rebar().measurement());
-    if (size >= 1 && static_cast<size_t>(size) <= names.size())
-        return qs(names[static_cast<size_t>(size) - 1]);
+    // The screen shows the Metric list for measurement 1 only.
+    const int32_t measurement = rebar().measurement() == 1 ? 1 : 0;
+    if (auto name = ZOLRebarCalculator::getRebarSizeNameWithMeasurement(measurement, size))
+        return qs(*name);
     // A Metric record can keep the Imperial "#8" it was given before the switch: the Metric
     // list has no fifth size, so the screen names the bar it was chosen as.
-    const auto imperial = ZOLRebarCalculator::getImperialRebarSizes();
-    if (size >= 1 && static_cast<size_t>(size) <= imperial.size())
-        return tr("%1 (Imperial)").arg(qs(imperial[static_cast<size_t>(size) - 1]));
+    if (auto imperial = ZOLRebarCalculator::getRebarSizeNameWithMeasurement(0, size))
+        return tr("%1 (Imperial)").arg(qs(*imperial));
     return tr("(no size)");
 }
 

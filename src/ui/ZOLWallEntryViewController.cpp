@@ -13,26 +13,11 @@
 #include "ui/ZOLStepper.h"
 #include "ui/ZOLWallHeightBox.h"
 
-#include <array>
-
 namespace {
 
 QString qs(const std::string& text) {
     return QString::fromStdString(text);
 }
-
-// Block sizes of the block-size box, in item order; any other index means an 8-inch wall.
-constexpr std::array<int32_t, 5> kBlockSizes{4, 6, 8, 10, 12};
-
-// Part types whose controls depend on the block size.
-constexpr int32_t kAngle = 4;
-constexpr int32_t kStraightCurb = 5;
-constexpr int32_t kCornerCurb = 6;
-constexpr int32_t kTBlock = 7;
-constexpr int32_t kCorbel = 8;
-constexpr int32_t kTapered = 9;
-constexpr int32_t kRadius = 10;
-constexpr int32_t kBuck = 11;
 
 } // namespace
 
@@ -161,15 +146,15 @@ void ZOLWallEntryViewController::toggleControlsAvailable() {
     auto valid = [size](int32_t type) {
         return ZOLWallData::getValidSizeWithBlockType(type, size);
     };
-    ui_->radius->setEnabled(valid(kRadius));
-    ui_->lfRadiusBlock->setEnabled(valid(kRadius));
-    ui_->lfCorbelBlock->setEnabled(valid(kCorbel));
-    ui_->lfTaperedBlock->setEnabled(valid(kTapered));
-    ui_->tBlockLocations->setEnabled(valid(kTBlock));
-    ui_->angleLocations->setEnabled(valid(kAngle));
-    ui_->lfCurbBlock->setEnabled(valid(kStraightCurb));
-    ui_->cornerCurbLocations->setEnabled(valid(kCornerCurb));
-    ui_->lfZolBuck->setEnabled(valid(kBuck));
+    ui_->radius->setEnabled(valid(ZOLWallData::Radius));
+    ui_->lfRadiusBlock->setEnabled(valid(ZOLWallData::Radius));
+    ui_->lfCorbelBlock->setEnabled(valid(ZOLWallData::Corbel));
+    ui_->lfTaperedBlock->setEnabled(valid(ZOLWallData::Tapered));
+    ui_->tBlockLocations->setEnabled(valid(ZOLWallData::TBlock));
+    ui_->angleLocations->setEnabled(valid(ZOLWallData::Angle));
+    ui_->lfCurbBlock->setEnabled(valid(ZOLWallData::StraightCurb));
+    ui_->cornerCurbLocations->setEnabled(valid(ZOLWallData::CornerCurb));
+    ui_->lfZolBuck->setEnabled(valid(ZOLWallData::Buck));
 }
 
 void ZOLWallEntryViewController::controlTextDidChange(QLineEdit* edit) {
@@ -199,9 +184,10 @@ void ZOLWallEntryViewController::comboBoxSelectionDidChange(QComboBox* box, int 
     } else if (box == ui_->pelmoPerBlock) {
         w.setPelmoPerBlock(ZOLNumeric::wrapAdd(index, 2));
     } else if (box == ui_->blockSize) {
-        w.setBlockSize(static_cast<size_t>(index) < kBlockSizes.size()
-                           ? kBlockSizes[static_cast<size_t>(index)]
-                           : ZOLWallData::kDefaultBlockSize);
+        // The box lists the line's sizes in order; any other index means an 8-inch wall.
+        const auto& sizes = ZOLWallData::kBlockSizes;
+        w.setBlockSize(static_cast<size_t>(index) < sizes.size() ? sizes[static_cast<size_t>(index)]
+                                                                 : ZOLWallData::kDefaultBlockSize);
         toggleControlsAvailable();
     }
     refreshResults();
