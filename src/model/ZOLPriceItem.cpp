@@ -43,12 +43,13 @@ void ZOLPriceItem::setValue(const std::optional<std::string>& value, int32_t for
     }
 }
 
-std::string ZOLPriceItem::getXMLString(int32_t depth) const {
+void ZOLPriceItem::appendXML(std::string& out, int32_t depth) const {
     const std::string tabs = ZOLXMLWriter::tabs(depth);
     // Every accessory (types 12 to 16) is filed under the largest size word,
     // "Twelve".
     const int32_t sizeWritten = (partType_ >= 12 && partType_ <= 16) ? 12 : partSize_;
-    return ZOLFormat::format("%@<PriceItem>\n"
+    ZOLFormat::append(out,
+                      "%@<PriceItem>\n"
                              "%@\t<PartSize>%@</PartSize>\n"
                              "%@\t<PartType>%@</PartType>\n"
                              "%@\t<Price>%.2f</Price>\n"
@@ -56,4 +57,10 @@ std::string ZOLPriceItem::getXMLString(int32_t depth) const {
                              tabs, tabs, ZOLWallData::getBasicSizeStringWithBlockSize(sizeWritten),
                              tabs, ZOLWallData::getBasicPartStringWithBlockType(partType_), tabs,
                              price_, tabs);
+}
+
+std::string ZOLPriceItem::getXMLString(int32_t depth) const {
+    std::string out;
+    appendXML(out, depth);
+    return out;
 }

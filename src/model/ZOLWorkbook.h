@@ -115,6 +115,10 @@ public:
     // The job-summary template file holding every line of customItems.
     std::string getCustomItemTemplateXMLString() const;
 
+    // Room for one worksheet's and one job-summary line's elements in the files.
+    static constexpr std::size_t kXMLBytesPerWorksheet = 4096;
+    static constexpr std::size_t kXMLBytesPerCustomItem = 256;
+
 private:
     // Zeroes and hides the tied lines of that source whose names were just
     // generated.
