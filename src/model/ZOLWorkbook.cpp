@@ -88,11 +88,9 @@ void ZOLWorkbook::clear() {
 
 // ---- worksheets ----
 
-namespace {
-void alertDuplicateName() {
+void ZOLWorkbook::alertDuplicateName() {
     ZOLAlerts::run("A worksheet with that name already exists.", "", {"OK"});
 }
-} // namespace
 
 void ZOLWorkbook::addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet) {
     if (!worksheet)

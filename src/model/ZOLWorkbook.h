@@ -71,6 +71,8 @@ public:
     // Each worksheet in turn, each refused on its own.
     void addWorksheets(const Worksheets& worksheets);
     bool worksheetExistsWithName(const std::string& name) const;
+    // The alert of a taken name, for a reader that gathers the worksheets itself.
+    static void alertDuplicateName();
     // Renames the first worksheet called oldName, unless newName is taken (the
     // alert again; renaming a worksheet to its own name is refused too).
     void changeWorksheetNameWithOldName(const std::string& oldName, const std::string& WithNewName);
