@@ -214,6 +214,7 @@ ZOLWorkbookReader::Result ZOLWorkbookReader::readWorkbookData(std::string_view b
     ZOLWorkbookReader reader(limits);
     if (!ZOLSaxParser::parse(bytes, reader)) {
         result.status = ZOLReadStatus::ParseError;
+        result.errorPosition = reader.errorPosition();
         return result;
     }
     result.status = ZOLReadStatus::Read;

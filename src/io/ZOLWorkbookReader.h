@@ -50,6 +50,8 @@ public:
         std::shared_ptr<ZOLWorkbook> workbook;
         // The file was XML without a "Workbook" element: `workbook` is a new default one.
         bool noWorkbookElement = false;
+        // Where the parser stopped when the status is ParseError.
+        ZOLReadPosition errorPosition;
         bool ok() const { return status == ZOLReadStatus::Read; }
     };
 
