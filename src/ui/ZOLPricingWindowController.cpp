@@ -6,6 +6,7 @@
 #include "io/ZOLText.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
+#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui_ZOLPricing.h"
 
@@ -140,9 +141,9 @@ void ZOLPricingWindowController::openPricing() {
 }
 
 void ZOLPricingWindowController::openPricingFile(const QString& path) {
-    // The reader turns the wrong format away itself.
-    if (auto bytes = ZOLFilePanels::readChosenFile(path); bytes && pricingData_)
-        ZOLPriceFileReader::readPriceData(*bytes, *pricingData_);
+    if (auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::PriceList); bytes && pricingData_)
+        ZOLFileAlerts::accepted(path, ZOLFileKind::PriceList,
+                                ZOLPriceFileReader::readPriceData(*bytes, *pricingData_));
     loadData();
 }
 
@@ -156,8 +157,8 @@ void ZOLPricingWindowController::savePricing() {
 void ZOLPricingWindowController::savePricingFile(const QString& path) {
     if (!pricingData_)
         return;
-    ZOLFilePanels::writeChosenFile(path, pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
-                                   "The price list could not be saved.");
+    ZOLFileAlerts::writeFile(path, pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
+                             "The price list could not be saved.");
 }
 
 void ZOLPricingWindowController::useSavedPrices() {
