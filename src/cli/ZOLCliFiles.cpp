@@ -17,13 +17,6 @@
 namespace zolcli {
 namespace {
 
-// The readers alert without naming the file: the path follows their alert.
-bool failed(const std::string& path) {
-    std::cerr << path << "\n";
-    setExitCode(1);
-    return false;
-}
-
 std::optional<std::string> readBytes(const std::string& path) {
     std::string reason;
     auto bytes = ZOLFileBytes::read(path, ZOLSaxParser::kMaxDocumentBytes, &reason);
@@ -36,6 +29,20 @@ std::optional<std::string> readBytes(const std::string& path) {
 
 } // namespace
 
+bool refused(const std::string& path, ZOLFileKind kind, ZOLReadStatus status,
+             const ZOLReadPosition& where) {
+    // The application reports a workbook's refused bytes through the system's own "could not
+    // be opened" error; the other readers have alerted themselves.
+    if (status == ZOLReadStatus::Refused && kind == ZOLFileKind::Workbook)
+        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
+    std::cerr << path;
+    if (status == ZOLReadStatus::ParseError && where.known())
+        std::cerr << ':' << where.line << ':' << where.column;
+    std::cerr << "\n";
+    setExitCode(1);
+    return false;
+}
+
 std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path) {
     const auto bytes = readBytes(path);
     if (!bytes)
@@ -43,11 +50,8 @@ std::shared_ptr<ZOLWorkbook> openWorkbook(const std::string& path) {
     const auto result = ZOLWorkbookReader::readWorkbookData(*bytes);
     if (result.ok() && !result.noWorkbookElement)
         return result.workbook;
-    // The application reports refused bytes through the system's own "could not be opened"
-    // error; the reader has alerted in the other cases.
-    if (result.status == ZOLReadStatus::Refused)
-        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
-    failed(path);
+    // XML without a workbook: the reader has alerted.
+    refused(path, ZOLFileKind::Workbook, result.status, result.errorPosition);
     return nullptr;
 }
 
@@ -55,16 +59,20 @@ bool openPrices(const std::string& path, ZOLPricing& pricing) {
     const auto bytes = readBytes(path);
     if (!bytes)
         return false;
-    return ZOLPriceFileReader::readPriceData(*bytes, pricing) == ZOLReadStatus::Read ||
-           failed(path);
+    ZOLReadPosition where;
+    const auto status = ZOLPriceFileReader::readPriceData(*bytes, pricing, {}, &where);
+    return status == ZOLReadStatus::Read ||
+           refused(path, ZOLFileKind::PriceList, status, where);
 }
 
 bool openTemplate(const std::string& path, ZOLWorkbook& workbook) {
     const auto bytes = readBytes(path);
     if (!bytes)
         return false;
-    return ZOLTemplateReader::readTemplateData(*bytes, workbook) == ZOLReadStatus::Read ||
-           failed(path);
+    ZOLReadPosition where;
+    const auto status = ZOLTemplateReader::readTemplateData(*bytes, workbook, {}, &where);
+    return status == ZOLReadStatus::Read ||
+           refused(path, ZOLFileKind::Template, status, where);
 }
 
 bool loadJobFiles(ZOLWorkbook& workbook, const std::string& pricesPath,

@@ -3,6 +3,7 @@
 // same open check and readers, the same alerts (printed on stderr), and atomic saves. Every
 // alert about a file is followed by the file's path, since one command may open several.
 #include "io/ZOLFileSaver.h"
+#include "io/ZOLReadStatus.h"
 
 #include <memory>
 #include <string>
@@ -11,6 +12,13 @@ class ZOLPricing;
 class ZOLWorkbook;
 
 namespace zolcli {
+
+// The one way zolest tells that a file could not be opened, after the reader's own alert: the
+// alert the reader leaves to its caller (a workbook's bytes that are no document), then the
+// file's path, followed by the line and column where the parser stopped ("house.zol:12:7"),
+// as compilers name a place in a file. Sets the exit code to 1; returns false.
+bool refused(const std::string& path, ZOLFileKind kind, ZOLReadStatus status,
+             const ZOLReadPosition& where);
 
 // Reads a workbook file as opening it in the application does. When it cannot be read the
 // alert is on stderr, the exit code is set to 1 and nothing is returned. A file that is XML

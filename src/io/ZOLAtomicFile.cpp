@@ -84,6 +84,10 @@ bool readBack(const std::string& path, std::string& out) {
     const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
     if (fd < 0)
         return false;
+    // Room for the whole file at once: it was just written, so its size is known.
+    struct stat info {};
+    if (::fstat(fd, &info) == 0 && info.st_size > 0)
+        out.reserve(static_cast<std::size_t>(info.st_size));
     char buffer[65536];
     ssize_t n = 0;
     while ((n = ::read(fd, buffer, sizeof buffer)) != 0) {

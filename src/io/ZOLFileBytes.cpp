@@ -28,6 +28,10 @@ std::optional<std::string> ZOLFileBytes::read(const std::string& path, std::size
     }
     std::string bytes;
     const std::size_t limit = maxBytes + 1;
+    // Room for the whole file at once, so that a large one is not copied from buffer to
+    // growing buffer as it comes in.
+    if (info.st_size > 0)
+        bytes.reserve(std::min(static_cast<std::size_t>(info.st_size), limit));
     char buffer[65536];
     while (bytes.size() < limit) {
         const std::size_t want = std::min(sizeof buffer, limit - bytes.size());

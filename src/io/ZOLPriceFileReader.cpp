@@ -8,7 +8,8 @@
 #include "platform/ZOLAlerts.h"
 
 ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPricing& pricing,
-                                                const ZOLReadLimits& limits) {
+                                                const ZOLReadLimits& limits,
+                                                ZOLReadPosition* errorPosition) {
     if (!ZOLReadCheck::acceptsData(bytes)) {
         ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
         return ZOLReadStatus::Refused;
@@ -17,8 +18,11 @@ ZOLReadStatus ZOLPriceFileReader::readPriceData(std::string_view bytes, ZOLPrici
     // cut-off file must not leave the job priced by the few items before the cut.
     ZOLPricing read = pricing;
     ZOLPriceFileReader reader(read, limits);
-    if (!ZOLSaxParser::parse(bytes, reader))
+    if (!ZOLSaxParser::parse(bytes, reader)) {
+        if (errorPosition)
+            *errorPosition = reader.errorPosition();
         return ZOLReadStatus::ParseError;
+    }
     pricing.setPriceItems(read.priceItems());
     return ZOLReadStatus::Read;
 }

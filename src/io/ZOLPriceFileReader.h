@@ -21,9 +21,11 @@ class ZOLPriceFileReader : public ZOLSaxHandler {
 public:
     // Opens a price file's bytes as the price list window does: bytes that fail the open check
     // (ZOLReadCheck) give the wrong-format alert, then the XML is read; `pricing` takes the
-    // file's list only when the whole file was read.
+    // file's list only when the whole file was read. After a parse error `errorPosition` (when
+    // given) tells where the parser stopped.
     static ZOLReadStatus readPriceData(std::string_view bytes, ZOLPricing& pricing,
-                                       const ZOLReadLimits& limits = {});
+                                       const ZOLReadLimits& limits = {},
+                                       ZOLReadPosition* errorPosition = nullptr);
 
     explicit ZOLPriceFileReader(ZOLPricing& pricing, const ZOLReadLimits& limits = {});
     ~ZOLPriceFileReader() override;

@@ -1,4 +1,6 @@
 #pragma once
+#include "io/ZOLReadStatus.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -27,6 +29,10 @@ public:
     void abortParse() { aborted_ = true; }
     bool aborted() const { return aborted_; }
 
+    // Where the parse stopped, set by the parser before it reports a parse error.
+    const ZOLReadPosition& errorPosition() const { return errorPosition_; }
+    void setErrorPosition(const ZOLReadPosition& position) { errorPosition_ = position; }
+
     static std::optional<std::string> attribute(const Attributes& attributes,
                                                 std::string_view name) {
         for (const auto& [key, value] : attributes)
@@ -37,4 +43,5 @@ public:
 
 private:
     bool aborted_ = false;
+    ZOLReadPosition errorPosition_;
 };

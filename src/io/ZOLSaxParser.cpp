@@ -1,7 +1,9 @@
 #include "io/ZOLSaxParser.h"
 
+#include <libxml/SAX2.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
+#include <libxml/xmlerror.h>
 
 #include <climits>
 #include <cstring>
@@ -15,7 +17,31 @@ struct ParseState {
     xmlParserCtxtPtr context = nullptr;
     bool refused = false;
     std::exception_ptr failure;
+    // Where the parse first went wrong: the first error libxml2 found, or where the parse was
+    // stopped on purpose (a handler's limit, a document type declaration).
+    ZOLReadPosition stoppedAt;
 };
+
+ZOLReadPosition currentPosition(xmlParserCtxtPtr context) {
+    return {xmlSAX2GetLineNumber(context), xmlSAX2GetColumnNumber(context)};
+}
+
+// Where a failed parse went wrong: where it first went wrong, else where libxml2 last found the
+// file broken, else where its input ended up.
+ZOLReadPosition errorPosition(const ParseState& state) {
+    if (state.stoppedAt.known())
+        return state.stoppedAt;
+    if (const xmlError* error = xmlCtxtGetLastError(state.context); error && error->line > 0)
+        return {error->line, error->int2 > 0 ? error->int2 : 1};
+    return currentPosition(state.context);
+}
+
+void stop(ParseState& state) {
+    if (!state.stoppedAt.known())
+        state.stoppedAt = currentPosition(state.context);
+    state.refused = true;
+    xmlStopParser(state.context);
+}
 
 ParseState& stateOf(void* ctx) {
     return *static_cast<ParseState*>(ctx);
@@ -66,10 +92,8 @@ template <typename Call> void dispatch(void* ctx, Call call) {
     } catch (...) {
         state.failure = std::current_exception();
     }
-    if (state.handler.aborted() || state.failure) {
-        state.refused = true;
-        xmlStopParser(state.context);
-    }
+    if (state.handler.aborted() || state.failure)
+        stop(state);
 }
 
 void onStartElement(void* ctx, const xmlChar* localname, const xmlChar* prefix, const xmlChar*, int,
@@ -108,9 +132,7 @@ void onCDataBlock(void*, const xmlChar*, int) {}
 // A document type declaration could declare entities (the billion-laughs kind), pull in an
 // external subset or add default attributes to every tag; no file of ours has one.
 void onInternalSubset(void* ctx, const xmlChar*, const xmlChar*, const xmlChar*) {
-    ParseState& state = stateOf(ctx);
-    state.refused = true;
-    xmlStopParser(state.context);
+    stop(stateOf(ctx));
 }
 
 void onEntityDecl(void* ctx, const xmlChar*, int, const xmlChar*, const xmlChar*, xmlChar*) {
@@ -123,6 +145,16 @@ xmlParserInputPtr onResolveEntity(void*, const xmlChar*, const xmlChar*) {
 
 // Errors are reported to the user by the reader's own alert; libxml2 must not print them.
 void onStructuredError(void*, xmlErrorPtr) {}
+
+// libxml2 reads on after the first error of a file, and the later ones are only its
+// consequences: the first is where the user should look.
+void onParseError(void* ctx, xmlErrorPtr error) {
+    if (!ctx || !error || error->line <= 0)
+        return;
+    ParseState& state = stateOf(ctx);
+    if (!state.stoppedAt.known())
+        state.stoppedAt = {error->line, error->int2 > 0 ? error->int2 : 1};
+}
 void onGenericError(void*, const char*, ...) {}
 
 // A few errors (text that the encoding its declaration names cannot convert, for one) are raised
@@ -162,7 +194,7 @@ xmlSAXHandler makeHandler() {
     sax.internalSubset = onInternalSubset;
     sax.entityDecl = onEntityDecl;
     sax.resolveEntity = onResolveEntity;
-    sax.serror = onStructuredError;
+    sax.serror = onParseError;
     return sax;
 }
 
@@ -216,13 +248,15 @@ bool ZOLSaxParser::parse(std::string_view bytes, ZOLSaxHandler& handler) {
     xmlSAXHandler sax = makeHandler();
     xmlSAXHandlerPtr ownHandler = context->sax;
     context->sax = &sax;
-    ParseState state{handler, context, false, nullptr};
+    ParseState state{handler, context, false, nullptr, {}};
     context->userData = &state;
     // No entity substitution, no DTD loading or validation, no network, libxml2's size and
     // depth limits left on (no XML_PARSE_HUGE).
     xmlCtxtUseOptions(context, XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING);
     xmlParseDocument(context);
     const bool wellFormed = context->wellFormed != 0 && !state.refused;
+    if (!wellFormed)
+        handler.setErrorPosition(errorPosition(state));
     context->sax = ownHandler;
     context->userData = context;
     xmlFreeParserCtxt(context);

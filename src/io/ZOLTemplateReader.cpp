@@ -10,13 +10,18 @@
 #include <unordered_map>
 
 ZOLReadStatus ZOLTemplateReader::readTemplateData(std::string_view bytes, ZOLWorkbook& workbook,
-                                                  const ZOLReadLimits& limits) {
+                                                  const ZOLReadLimits& limits,
+                                                  ZOLReadPosition* errorPosition) {
     if (!ZOLReadCheck::acceptsData(bytes)) {
         ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
         return ZOLReadStatus::Refused;
     }
     ZOLTemplateReader reader(workbook, limits);
-    return ZOLSaxParser::parse(bytes, reader) ? ZOLReadStatus::Read : ZOLReadStatus::ParseError;
+    if (ZOLSaxParser::parse(bytes, reader))
+        return ZOLReadStatus::Read;
+    if (errorPosition)
+        *errorPosition = reader.errorPosition();
+    return ZOLReadStatus::ParseError;
 }
 
 ZOLTemplateReader::ZOLTemplateReader(ZOLWorkbook& workbook, const ZOLReadLimits& limits)

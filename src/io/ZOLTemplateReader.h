@@ -21,9 +21,11 @@ class ZOLWorkbook;
 class ZOLTemplateReader : public ZOLSaxHandler {
 public:
     // Opens a template's bytes as the job summary screen does: bytes that fail the open check
-    // (ZOLReadCheck) give the wrong-format alert, then the XML is read into `workbook`.
+    // (ZOLReadCheck) give the wrong-format alert, then the XML is read into `workbook`. After a
+    // parse error `errorPosition` (when given) tells where the parser stopped.
     static ZOLReadStatus readTemplateData(std::string_view bytes, ZOLWorkbook& workbook,
-                                          const ZOLReadLimits& limits = {});
+                                          const ZOLReadLimits& limits = {},
+                                          ZOLReadPosition* errorPosition = nullptr);
 
     explicit ZOLTemplateReader(ZOLWorkbook& workbook, const ZOLReadLimits& limits = {});
     ~ZOLTemplateReader() override;

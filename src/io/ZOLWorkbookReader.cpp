@@ -138,6 +138,7 @@ ZOLWorkbookReader::Result ZOLWorkbookReader::readWorkbookData(std::string_view b
     ZOLWorkbookReader reader(limits);
     if (!ZOLSaxParser::parse(bytes, reader)) {
         result.status = ZOLReadStatus::ParseError;
+        result.errorPosition = reader.errorPosition();
         return result;
     }
     result.status = ZOLReadStatus::Read;
@@ -167,6 +168,8 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
         if (countObjects(kDefaultPriceItems + 1)) {
             workbook_ = std::make_shared<ZOLWorkbook>();
             workbook_->clear();
+            worksheets_.clear();
+            worksheetNames_.clear();
         }
         break;
     case Tag::Worksheet:
@@ -305,8 +308,12 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
         break;
     case Tag::Worksheet:
         // A repeated name raises the workbook's own alert and the worksheet is left out.
-        if (worksheet_ && workbook_)
-            workbook_->addWorksheetsObject(worksheet_);
+        if (worksheet_ && workbook_) {
+            if (worksheetNames_.insert(worksheet_->name()).second)
+                worksheets_.push_back(std::move(worksheet_));
+            else
+                ZOLWorkbook::alertDuplicateName();
+        }
         worksheet_.reset();
         break;
     case Tag::PriceItem:
@@ -369,8 +376,10 @@ void ZOLWorkbookReader::applyProperty() {
 
 void ZOLWorkbookReader::endDocument() {
     if (workbook_) {
-        if (workbook_->worksheets().empty())
-            workbook_->addWorksheetsObject(std::make_shared<ZOLWorksheet>());
+        if (worksheets_.empty())
+            worksheets_.push_back(std::make_shared<ZOLWorksheet>());
+        workbook_->setWorksheets(std::move(worksheets_));
+        worksheets_.clear();
         loaded_ = std::move(workbook_);
     } else {
         ZOLAlerts::run(ZOLReadCheck::kOpenErrorMessage, "", {"OK"});

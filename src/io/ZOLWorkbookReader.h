@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 class ZOLConcrete;
@@ -49,6 +50,8 @@ public:
         std::shared_ptr<ZOLWorkbook> workbook;
         // The file was XML without a "Workbook" element: `workbook` is a new default one.
         bool noWorkbookElement = false;
+        // Where the parser stopped when the status is ParseError.
+        ZOLReadPosition errorPosition;
         bool ok() const { return status == ZOLReadStatus::Read; }
     };
 
@@ -91,6 +94,10 @@ private:
     std::vector<int32_t> open_;
 
     ZOLReadLimits limits_;
+    // The worksheets of the workbook being read and their names: a house of a thousand
+    // worksheets must not be checked name by name and copied at every worksheet.
+    std::vector<std::shared_ptr<ZOLWorksheet>> worksheets_;
+    std::unordered_set<std::string> worksheetNames_;
     std::shared_ptr<ZOLWorkbook> loaded_;
     int32_t worksheetsSeen_ = 0;
     int32_t objects_ = 0;

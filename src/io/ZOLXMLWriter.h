@@ -23,7 +23,17 @@ public:
 
     // The declaration and the root start tag with the namespaces, ready for the first child.
     static std::string openDocument(const char* root) {
-        return std::string(kDeclaration) + "<" + root + " " + kSchemaNamespaces + ">\n";
+        std::string out;
+        appendOpenDocument(out, root);
+        return out;
+    }
+    static void appendOpenDocument(std::string& out, const char* root) {
+        out += kDeclaration;
+        out += '<';
+        out += root;
+        out += ' ';
+        out += kSchemaNamespaces;
+        out += ">\n";
     }
     // The text with the markup characters written as entities; an absent text stays absent
     // (and is written "(null)" as before).

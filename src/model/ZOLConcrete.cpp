@@ -70,27 +70,32 @@ double ZOLConcrete::getWallWeight() const {
     return ZOLConcreteCalculator::calculateConcreteWeightForVolume(getWallVolume(), measurement_);
 }
 
-std::string ZOLConcrete::getXMLString() const {
-    std::string xml = "\t\t\t<ConcreteData>\n";
-    xml += ZOLFormat::format("\t\t\t\t<Measurement>%@</Measurement>\n",
+void ZOLConcrete::appendXML(std::string& out) const {
+    out += "\t\t\t<ConcreteData>\n";
+    ZOLFormat::append(out, "\t\t\t\t<Measurement>%@</Measurement>\n",
                              measurement_ == 0 ? "Imperial" : "Metric");
-    xml += ZOLFormat::format("\t\t\t\t<FootingWidth>%d</FootingWidth>\n", footingWidth_);
-    xml += ZOLFormat::format("\t\t\t\t<FootingLength>%f</FootingLength>\n", footingLength_);
-    xml += ZOLFormat::format("\t\t\t\t<FootingDepth>%d</FootingDepth>\n", footingDepth_);
-    xml += ZOLFormat::format("\t\t\t\t<PileDepth>%f</PileDepth>\n", pileDepth_);
-    xml += ZOLFormat::format("\t\t\t\t<PileDiameter>%d</PileDiameter>\n", pileDiameter_);
-    xml += ZOLFormat::format("\t\t\t\t<PileCount>%d</PileCount>\n", pileCount_);
-    xml += ZOLFormat::format("\t\t\t\t<SlabLength>%f</SlabLength>\n", slabLength_);
-    xml += ZOLFormat::format("\t\t\t\t<SlabWidth>%f</SlabWidth>\n", slabWidth_);
-    xml += ZOLFormat::format("\t\t\t\t<SlabDepth>%d</SlabDepth>\n", slabDepth_);
-    xml += ZOLFormat::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
-    xml += ZOLFormat::format("\t\t\t\t<WallThickness>%d</WallThickness>\n", wallThickness_);
-    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
-    xml += ZOLFormat::format("\t\t\t\t<RemoveSqFtOpenings>%@</RemoveSqFtOpenings>\n",
+    ZOLFormat::append(out, "\t\t\t\t<FootingWidth>%d</FootingWidth>\n", footingWidth_);
+    ZOLFormat::append(out, "\t\t\t\t<FootingLength>%f</FootingLength>\n", footingLength_);
+    ZOLFormat::append(out, "\t\t\t\t<FootingDepth>%d</FootingDepth>\n", footingDepth_);
+    ZOLFormat::append(out, "\t\t\t\t<PileDepth>%f</PileDepth>\n", pileDepth_);
+    ZOLFormat::append(out, "\t\t\t\t<PileDiameter>%d</PileDiameter>\n", pileDiameter_);
+    ZOLFormat::append(out, "\t\t\t\t<PileCount>%d</PileCount>\n", pileCount_);
+    ZOLFormat::append(out, "\t\t\t\t<SlabLength>%f</SlabLength>\n", slabLength_);
+    ZOLFormat::append(out, "\t\t\t\t<SlabWidth>%f</SlabWidth>\n", slabWidth_);
+    ZOLFormat::append(out, "\t\t\t\t<SlabDepth>%d</SlabDepth>\n", slabDepth_);
+    ZOLFormat::append(out, "\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    ZOLFormat::append(out, "\t\t\t\t<WallThickness>%d</WallThickness>\n", wallThickness_);
+    ZOLFormat::append(out, "\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    ZOLFormat::append(out, "\t\t\t\t<RemoveSqFtOpenings>%@</RemoveSqFtOpenings>\n",
                              ZOLText::boolText(removeSqFtOpenings_));
-    xml += ZOLFormat::format("\t\t\t\t<SqFtOpenings>%f</SqFtOpenings>\n", sqFtOpenings_);
-    xml += "\t\t\t</ConcreteData>\n";
-    return xml;
+    ZOLFormat::append(out, "\t\t\t\t<SqFtOpenings>%f</SqFtOpenings>\n", sqFtOpenings_);
+    out += "\t\t\t</ConcreteData>\n";
+}
+
+std::string ZOLConcrete::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLConcrete::setValue(const std::optional<std::string>& value, int32_t forProperty) {

@@ -54,6 +54,7 @@ public:
     // The "ConcreteData" element: all fifteen fields are written, but only codes 11 to 23
     // (measurement to wallHeight) are read back; the openings flag and area are not restored.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 
 private:

@@ -20,8 +20,15 @@ void ZOLCustomItem::clear() {
 }
 
 std::string ZOLCustomItem::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
+}
+
+void ZOLCustomItem::appendXML(std::string& out) const {
     // The template keeps what the user typed; only markup characters are escaped.
-    return ZOLFormat::format("\t\t<CustomItem>\n"
+    ZOLFormat::append(out,
+                      "\t\t<CustomItem>\n"
                              "\t\t\t<Name>%@</Name>\n"
                              "\t\t\t<Quantity>%f</Quantity>\n"
                              "\t\t\t<Unit>%@</Unit>\n"

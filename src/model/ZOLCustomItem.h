@@ -28,6 +28,7 @@ public:
 
     // The line's "CustomItem" element of the template file, two tabs deep.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     // Template reader hook: codes 84 to 90 set name, quantity, unit, cost, tiedToWorkbook,
     // calculatorType and visible; every other code is ignored.
     void setValue(const std::optional<std::string>& value, int32_t forProperty);

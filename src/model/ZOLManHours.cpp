@@ -123,28 +123,31 @@ double ZOLManHours::getDaysToComplete() const {
                                                              squareFeetOfWall_, crewSize_);
 }
 
-std::string ZOLManHours::getXMLString() const {
-    std::string xml = "\t\t\t<ManHourData>\n";
-    xml +=
-        ZOLFormat::format("\t\t\t\t<SquareFeetOfWall>%f</SquareFeetOfWall>\n", squareFeetOfWall_);
-    xml += ZOLFormat::format("\t\t\t\t<CornersAndTs>%d</CornersAndTs>\n", cornersAndTs_);
-    xml += ZOLFormat::format("\t\t\t\t<SquareFeetOfOpenings>%f</SquareFeetOfOpenings>\n",
+void ZOLManHours::appendXML(std::string& out) const {
+    out += "\t\t\t<ManHourData>\n";
+    ZOLFormat::append(out, "\t\t\t\t<SquareFeetOfWall>%f</SquareFeetOfWall>\n", squareFeetOfWall_);
+    ZOLFormat::append(out, "\t\t\t\t<CornersAndTs>%d</CornersAndTs>\n", cornersAndTs_);
+    ZOLFormat::append(out, "\t\t\t\t<SquareFeetOfOpenings>%f</SquareFeetOfOpenings>\n",
                              squareFeetOfOpenings_);
-    xml +=
-        ZOLFormat::format("\t\t\t\t<LinealFeetCorbelCurbTapered>%f</LinealFeetCorbelCurbTapered>\n",
+    ZOLFormat::append(out, "\t\t\t\t<LinealFeetCorbelCurbTapered>%f</LinealFeetCorbelCurbTapered>\n",
                           linearFeetCorbelCurbTapered_);
-    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
-    xml += ZOLFormat::format("\t\t\t\t<RebarComplexity>%@</RebarComplexity>\n",
+    ZOLFormat::append(out, "\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    ZOLFormat::append(out, "\t\t\t\t<RebarComplexity>%@</RebarComplexity>\n",
                              wordFor(rebarComplexity_, kComplexityWords));
-    xml += ZOLFormat::format("\t\t\t\t<CrewExperience>%@</CrewExperience>\n",
+    ZOLFormat::append(out, "\t\t\t\t<CrewExperience>%@</CrewExperience>\n",
                              wordFor(crewExperience_, kExperienceWords));
-    xml += ZOLFormat::format("\t\t\t\t<SiteConditions>%@</SiteConditions>\n",
+    ZOLFormat::append(out, "\t\t\t\t<SiteConditions>%@</SiteConditions>\n",
                              wordFor(siteConditions_, kConditionWords));
-    xml += ZOLFormat::format("\t\t\t\t<OtherTurns>%d</OtherTurns>\n", otherTurns_);
-    xml += ZOLFormat::format("\t\t\t\t<LaborCost>%f</LaborCost>\n", laborCost_);
-    xml += ZOLFormat::format("\t\t\t\t<CrewSize>%d</CrewSize>\n", crewSize_);
-    xml += "\t\t\t</ManHourData>\n";
-    return xml;
+    ZOLFormat::append(out, "\t\t\t\t<OtherTurns>%d</OtherTurns>\n", otherTurns_);
+    ZOLFormat::append(out, "\t\t\t\t<LaborCost>%f</LaborCost>\n", laborCost_);
+    ZOLFormat::append(out, "\t\t\t\t<CrewSize>%d</CrewSize>\n", crewSize_);
+    out += "\t\t\t</ManHourData>\n";
+}
+
+std::string ZOLManHours::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLManHours::setValue(const std::optional<std::string>& value, int32_t forProperty) {

@@ -49,6 +49,7 @@ public:
     // The "ManHourData" element and the reading of its codes (70 to 80). The judgements are
     // written as words; a rating without a word is written "(null)" and reads back unchanged.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 
 private:

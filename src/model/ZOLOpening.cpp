@@ -30,16 +30,21 @@ double ZOLOpening::getTotalLinearFeetOfBuck() const {
            numberOfOpenings_;
 }
 
-std::string ZOLOpening::getXMLString() const {
+void ZOLOpening::appendXML(std::string& out) const {
     using F = ZOLFormat;
-    std::string xml = "\t\t\t\t\t<Opening>\n";
-    xml += F::format("\t\t\t\t\t\t<RowNumber>%d</RowNumber>\n", rowNumber_);
-    xml += F::format("\t\t\t\t\t\t<NumberOfOpenings>%d</NumberOfOpenings>\n", numberOfOpenings_);
-    xml += F::format("\t\t\t\t\t\t<OpeningWidth>%f</OpeningWidth>\n", openingWidth_);
-    xml += F::format("\t\t\t\t\t\t<OpeningHeight>%f</OpeningHeight>\n", openingHeight_);
-    xml += F::format("\t\t\t\t\t\t<UseSill>%@</UseSill>\n", ZOLText::boolText(useSill_));
-    xml += "\t\t\t\t\t</Opening>\n";
-    return xml;
+    out += "\t\t\t\t\t<Opening>\n";
+    F::append(out, "\t\t\t\t\t\t<RowNumber>%d</RowNumber>\n", rowNumber_);
+    F::append(out, "\t\t\t\t\t\t<NumberOfOpenings>%d</NumberOfOpenings>\n", numberOfOpenings_);
+    F::append(out, "\t\t\t\t\t\t<OpeningWidth>%f</OpeningWidth>\n", openingWidth_);
+    F::append(out, "\t\t\t\t\t\t<OpeningHeight>%f</OpeningHeight>\n", openingHeight_);
+    F::append(out, "\t\t\t\t\t\t<UseSill>%@</UseSill>\n", ZOLText::boolText(useSill_));
+    out += "\t\t\t\t\t</Opening>\n";
+}
+
+std::string ZOLOpening::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLOpening::setValue(const std::optional<std::string>& value, int32_t forProperty) {

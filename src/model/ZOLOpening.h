@@ -29,6 +29,7 @@ public:
 
     // The "Opening" element of the workbook file.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     // An element's text read back from the file; acts on codes 24 to 28 only.
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 

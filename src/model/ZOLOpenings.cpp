@@ -38,11 +38,16 @@ double ZOLOpenings::getTotalLinearFeetOfBuck() const {
     return total;
 }
 
-std::string ZOLOpenings::getXMLString() const {
-    std::string xml = "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n";
+void ZOLOpenings::appendXML(std::string& out) const {
+    out += "\t\t\t<OpeningData>\n\t\t\t\t<OpeningList>\n";
     for (const auto& opening : openingList_)
         if (opening)
-            xml += opening->getXMLString();
-    xml += "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n";
-    return xml;
+            opening->appendXML(out);
+    out += "\t\t\t\t</OpeningList>\n\t\t\t</OpeningData>\n";
+}
+
+std::string ZOLOpenings::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }

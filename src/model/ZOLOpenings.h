@@ -26,6 +26,7 @@ public:
 
     // The "OpeningData" element of the workbook file, rows in list order.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
 
 private:
     std::vector<std::shared_ptr<ZOLOpening>> openingList_;

@@ -35,18 +35,25 @@ void ZOLPriceItem::setValue(const std::optional<std::string>& value, int32_t for
     }
 }
 
-std::string ZOLPriceItem::getXMLString(int32_t depth) const {
+void ZOLPriceItem::appendXML(std::string& out, int32_t depth) const {
     const std::string tabs = ZOLXMLWriter::tabs(depth);
     // Every accessory is filed under the largest size word, "Twelve".
     const bool accessory =
         partType_ >= ZOLWallData::kFirstAccessory && partType_ <= ZOLWallData::kLastAccessory;
     const int32_t sizeWritten = accessory ? ZOLWallData::kNoSize : partSize_;
-    return ZOLFormat::format("%@<PriceItem>\n"
-                             "%@\t<PartSize>%@</PartSize>\n"
-                             "%@\t<PartType>%@</PartType>\n"
-                             "%@\t<Price>%.2f</Price>\n"
-                             "%@</PriceItem>\n",
-                             tabs, tabs, ZOLWallData::getBasicSizeStringWithBlockSize(sizeWritten),
-                             tabs, ZOLWallData::getBasicPartStringWithBlockType(partType_), tabs,
-                             price_, tabs);
+    ZOLFormat::append(out,
+                      "%@<PriceItem>\n"
+                      "%@\t<PartSize>%@</PartSize>\n"
+                      "%@\t<PartType>%@</PartType>\n"
+                      "%@\t<Price>%.2f</Price>\n"
+                      "%@</PriceItem>\n",
+                      tabs, tabs, ZOLWallData::getBasicSizeStringWithBlockSize(sizeWritten),
+                      tabs, ZOLWallData::getBasicPartStringWithBlockType(partType_), tabs,
+                      price_, tabs);
+}
+
+std::string ZOLPriceItem::getXMLString(int32_t depth) const {
+    std::string out;
+    appendXML(out, depth);
+    return out;
 }

@@ -29,6 +29,7 @@ public:
     // The "PriceItem" element, indented by the given number of tabs (three in the
     // workbook file, two in the price file).
     std::string getXMLString(int32_t depth) const;
+    void appendXML(std::string& out, int32_t depth) const;
 
 private:
     int32_t partSize_ = 0;

@@ -80,21 +80,28 @@ bool ZOLPricing::useSavedItems() {
 }
 
 std::string ZOLPricing::getPartialXMLString() const {
-    std::string out = "\t<PricingData>\n\t\t<PriceItems>\n";
-    for (const auto& item : priceItems_) {
-        if (item)
-            out += item->getXMLString(3);
-    }
-    out += "\t\t</PriceItems>\n\t</PricingData>\n";
+    std::string out;
+    appendPartialXML(out);
     return out;
 }
 
+void ZOLPricing::appendPartialXML(std::string& out) const {
+    out += "\t<PricingData>\n\t\t<PriceItems>\n";
+    for (const auto& item : priceItems_) {
+        if (item)
+            item->appendXML(out, 3);
+    }
+    out += "\t\t</PriceItems>\n\t</PricingData>\n";
+}
+
 std::string ZOLPricing::getFullXMLString() const {
-    std::string out = ZOLXMLWriter::openDocument("Pricing");
+    std::string out;
+    out.reserve(kXMLBytesPerItem * (priceItems_.size() + 1));
+    ZOLXMLWriter::appendOpenDocument(out, "Pricing");
     out += "\t<PriceItems>\n";
     for (const auto& item : priceItems_) {
         if (item)
-            out += item->getXMLString(2);
+            item->appendXML(out, 2);
     }
     out += "\t</PriceItems>\n</Pricing>";
     return out;

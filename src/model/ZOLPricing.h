@@ -1,6 +1,7 @@
 #pragma once
 #include "model/ZOLPriceItem.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -41,8 +42,12 @@ public:
 
     // The "PricingData" element of the workbook file.
     std::string getPartialXMLString() const;
+    void appendPartialXML(std::string& out) const;
     // The stand-alone price file.
     std::string getFullXMLString() const;
+
+    // Room for one price item's element, so that a file is built without growing its buffer.
+    static constexpr std::size_t kXMLBytesPerItem = 128;
 
 private:
     std::vector<std::shared_ptr<ZOLPriceItem>> priceItems_;

@@ -46,27 +46,32 @@ double ZOLRebar::getDowelLength() const {
                                                              dowelLength_);
 }
 
-std::string ZOLRebar::getXMLString() const {
-    std::string xml = "\t\t\t<RebarData>\n";
-    xml += ZOLFormat::format("\t\t\t\t<Measurement>%@</Measurement>\n",
+void ZOLRebar::appendXML(std::string& out) const {
+    out += "\t\t\t<RebarData>\n";
+    ZOLFormat::append(out, "\t\t\t\t<Measurement>%@</Measurement>\n",
                              measurement_ == 0 ? "Imperial" : "Metric");
-    xml += ZOLFormat::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalSize1>%d</HorizontalSize1>\n", horizontalSize1_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalRowCount1>%d</HorizontalRowCount1>\n",
+    ZOLFormat::append(out, "\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalSize1>%d</HorizontalSize1>\n", horizontalSize1_);
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalRowCount1>%d</HorizontalRowCount1>\n",
                              horizontalRowCount1_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalLap1>%d</HorizontalLap1>\n", horizontalLap1_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalSize2>%d</HorizontalSize2>\n", horizontalSize2_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalRowCount2>%d</HorizontalRowCount2>\n",
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalLap1>%d</HorizontalLap1>\n", horizontalLap1_);
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalSize2>%d</HorizontalSize2>\n", horizontalSize2_);
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalRowCount2>%d</HorizontalRowCount2>\n",
                              horizontalRowCount2_);
-    xml += ZOLFormat::format("\t\t\t\t<HorizontalLap2>%d</HorizontalLap2>\n", horizontalLap2_);
-    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
-    xml += ZOLFormat::format("\t\t\t\t<VerticalSize>%d</VerticalSize>\n", verticalSize_);
-    xml += ZOLFormat::format("\t\t\t\t<VerticalSpacing>%d</VerticalSpacing>\n", verticalSpacing_);
-    xml += ZOLFormat::format("\t\t\t\t<DowelSize>%d</DowelSize>\n", dowelSize_);
-    xml += ZOLFormat::format("\t\t\t\t<DowelSpacing>%d</DowelSpacing>\n", dowelSpacing_);
-    xml += ZOLFormat::format("\t\t\t\t<DowelLength>%d</DowelLength>\n", dowelLength_);
-    xml += "\t\t\t</RebarData>\n";
-    return xml;
+    ZOLFormat::append(out, "\t\t\t\t<HorizontalLap2>%d</HorizontalLap2>\n", horizontalLap2_);
+    ZOLFormat::append(out, "\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    ZOLFormat::append(out, "\t\t\t\t<VerticalSize>%d</VerticalSize>\n", verticalSize_);
+    ZOLFormat::append(out, "\t\t\t\t<VerticalSpacing>%d</VerticalSpacing>\n", verticalSpacing_);
+    ZOLFormat::append(out, "\t\t\t\t<DowelSize>%d</DowelSize>\n", dowelSize_);
+    ZOLFormat::append(out, "\t\t\t\t<DowelSpacing>%d</DowelSpacing>\n", dowelSpacing_);
+    ZOLFormat::append(out, "\t\t\t\t<DowelLength>%d</DowelLength>\n", dowelLength_);
+    out += "\t\t\t</RebarData>\n";
+}
+
+std::string ZOLRebar::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLRebar::setValue(const std::optional<std::string>& value, int32_t forProperty) {

@@ -47,6 +47,7 @@ public:
 
     // The "RebarData" element of the workbook file, and the reading of its codes (29 to 42).
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 
 private:

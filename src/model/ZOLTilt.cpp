@@ -38,12 +38,17 @@ double ZOLTilt::getInsertWeight() const {
     return ZOLTiltCalculator::calculateInsertWeightWithInserts(getInserts());
 }
 
+void ZOLTilt::appendXML(std::string& out) const {
+    out += "\t\t\t<TiltData>\n";
+    ZOLFormat::append(out, "\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    ZOLFormat::append(out, "\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    out += "\t\t\t</TiltData>\n";
+}
+
 std::string ZOLTilt::getXMLString() const {
-    std::string xml = "\t\t\t<TiltData>\n";
-    xml += ZOLFormat::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
-    xml += ZOLFormat::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
-    xml += "\t\t\t</TiltData>\n";
-    return xml;
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLTilt::setValue(const std::optional<std::string>& value, int32_t forProperty) {

@@ -24,6 +24,7 @@ public:
 
     // The "TiltData" element and the reading of its codes (43 height, 44 length).
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 
 private:

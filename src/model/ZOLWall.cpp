@@ -408,40 +408,44 @@ double ZOLWall::getApproximateWeightWithPartType(int32_t partType, bool rounded)
 
 // ---- File
 
-std::string ZOLWall::getXMLString() const {
+void ZOLWall::appendXML(std::string& out) const {
     using F = ZOLFormat;
-    std::string xml = "\t\t\t<WallData>\n";
-    xml += F::format("\t\t\t\t<BlockSize>%@</BlockSize>\n",
+    out += "\t\t\t<WallData>\n";
+    F::append(out, "\t\t\t\t<BlockSize>%@</BlockSize>\n",
                      WD::getBasicSizeStringWithBlockSize(blockSize_));
-    xml += F::format("\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
-    xml += F::format("\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
-    xml += F::format("\t\t\t\t<InsideCornerLocations>%d</InsideCornerLocations>\n",
+    F::append(out, "\t\t\t\t<WallHeight>%f</WallHeight>\n", wallHeight_);
+    F::append(out, "\t\t\t\t<WallLength>%f</WallLength>\n", wallLength_);
+    F::append(out, "\t\t\t\t<InsideCornerLocations>%d</InsideCornerLocations>\n",
                      insideCornerLocations_);
-    xml += F::format("\t\t\t\t<OutsideCornerLocations>%d</OutsideCornerLocations>\n",
+    F::append(out, "\t\t\t\t<OutsideCornerLocations>%d</OutsideCornerLocations>\n",
                      outsideCornerLocations_);
-    xml += F::format("\t\t\t\t<AngleLocations>%d</AngleLocations>\n", angleLocations_);
-    xml += F::format("\t\t\t\t<TBlockLocations>%d</TBlockLocations>\n", tBlockLocations_);
-    xml += F::format("\t\t\t\t<LinearFeetCorbel>%f</LinearFeetCorbel>\n", linearFeetCorbel_);
-    xml += F::format("\t\t\t\t<LinearFeetCurb>%f</LinearFeetCurb>\n", linearFeetCurb_);
-    xml +=
-        F::format("\t\t\t\t<CurbCornerLocations>%d</CurbCornerLocations>\n", curbCornerLocations_);
-    xml += F::format("\t\t\t\t<LinearFeetTapered>%f</LinearFeetTapered>\n", linearFeetTapered_);
-    xml += F::format("\t\t\t\t<LinearFeetRadius>%f</LinearFeetRadius>\n", linearFeetRadius_);
-    xml += F::format("\t\t\t\t<Radius>%d</Radius>\n", radius_);
-    xml += F::format("\t\t\t\t<SquareFeetOpenings>%f</SquareFeetOpenings>\n", sqftOpenings_);
-    xml += F::format("\t\t\t\t<LinearFeetBuck>%f</LinearFeetBuck>\n", linearFeetBuck_);
-    xml += F::format("\t\t\t\t<StraightBlockAdded>%d</StraightBlockAdded>\n", straightBlockAdded_);
-    xml += F::format("\t\t\t\t<CornerBlockAdded>%d</CornerBlockAdded>\n", cornerBlockAdded_);
-    xml += F::format("\t\t\t\t<CaloraStickLayers>%d</CaloraStickLayers>\n", caloraStickLayers_);
-    xml += F::format("\t\t\t\t<UseCutBlock>%@</UseCutBlock>\n", ZOLText::boolText(useCutBlock_));
-    xml += F::format("\t\t\t\t<UseHalfBlock>%@</UseHalfBlock>\n", ZOLText::boolText(useHalfBlock_));
-    xml += F::format("\t\t\t\t<UseExtenders>%@</UseExtenders>\n", ZOLText::boolText(useExtenders_));
-    xml += F::format("\t\t\t\t<UsePravex>%@</UsePravex>\n", ZOLText::boolText(usePravex_));
-    xml += F::format("\t\t\t\t<PelmoBrickHeight>%f</PelmoBrickHeight>\n", pelmoBrickHeight_);
-    xml += F::format("\t\t\t\t<PelmoBrickLength>%f</PelmoBrickLength>\n", pelmoBrickLength_);
-    xml += F::format("\t\t\t\t<PelmoPerBlock>%d</PelmoPerBlock>\n", pelmoPerBlock_);
-    xml += "\t\t\t</WallData>\n";
-    return xml;
+    F::append(out, "\t\t\t\t<AngleLocations>%d</AngleLocations>\n", angleLocations_);
+    F::append(out, "\t\t\t\t<TBlockLocations>%d</TBlockLocations>\n", tBlockLocations_);
+    F::append(out, "\t\t\t\t<LinearFeetCorbel>%f</LinearFeetCorbel>\n", linearFeetCorbel_);
+    F::append(out, "\t\t\t\t<LinearFeetCurb>%f</LinearFeetCurb>\n", linearFeetCurb_);
+    F::append(out, "\t\t\t\t<CurbCornerLocations>%d</CurbCornerLocations>\n", curbCornerLocations_);
+    F::append(out, "\t\t\t\t<LinearFeetTapered>%f</LinearFeetTapered>\n", linearFeetTapered_);
+    F::append(out, "\t\t\t\t<LinearFeetRadius>%f</LinearFeetRadius>\n", linearFeetRadius_);
+    F::append(out, "\t\t\t\t<Radius>%d</Radius>\n", radius_);
+    F::append(out, "\t\t\t\t<SquareFeetOpenings>%f</SquareFeetOpenings>\n", sqftOpenings_);
+    F::append(out, "\t\t\t\t<LinearFeetBuck>%f</LinearFeetBuck>\n", linearFeetBuck_);
+    F::append(out, "\t\t\t\t<StraightBlockAdded>%d</StraightBlockAdded>\n", straightBlockAdded_);
+    F::append(out, "\t\t\t\t<CornerBlockAdded>%d</CornerBlockAdded>\n", cornerBlockAdded_);
+    F::append(out, "\t\t\t\t<CaloraStickLayers>%d</CaloraStickLayers>\n", caloraStickLayers_);
+    F::append(out, "\t\t\t\t<UseCutBlock>%@</UseCutBlock>\n", ZOLText::boolText(useCutBlock_));
+    F::append(out, "\t\t\t\t<UseHalfBlock>%@</UseHalfBlock>\n", ZOLText::boolText(useHalfBlock_));
+    F::append(out, "\t\t\t\t<UseExtenders>%@</UseExtenders>\n", ZOLText::boolText(useExtenders_));
+    F::append(out, "\t\t\t\t<UsePravex>%@</UsePravex>\n", ZOLText::boolText(usePravex_));
+    F::append(out, "\t\t\t\t<PelmoBrickHeight>%f</PelmoBrickHeight>\n", pelmoBrickHeight_);
+    F::append(out, "\t\t\t\t<PelmoBrickLength>%f</PelmoBrickLength>\n", pelmoBrickLength_);
+    F::append(out, "\t\t\t\t<PelmoPerBlock>%d</PelmoPerBlock>\n", pelmoPerBlock_);
+    out += "\t\t\t</WallData>\n";
+}
+
+std::string ZOLWall::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
 }
 
 void ZOLWall::setValue(const std::optional<std::string>& value, int32_t forProperty) {

@@ -117,6 +117,7 @@ public:
 
     // The "WallData" element of the workbook file (the waste allowance is not saved).
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
     // An element's text read back from the file; acts on codes 45 to 69 only.
     void setValue(const std::optional<std::string>& value, int32_t forProperty);
 

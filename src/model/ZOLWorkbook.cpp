@@ -75,11 +75,9 @@ void ZOLWorkbook::clear() {
 
 // ---- worksheets ----
 
-namespace {
-void alertDuplicateName() {
+void ZOLWorkbook::alertDuplicateName() {
     ZOLAlerts::run("A worksheet with that name already exists.", "", {"OK"});
 }
-} // namespace
 
 void ZOLWorkbook::addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet) {
     if (!worksheet)
@@ -391,20 +389,26 @@ void ZOLWorkbook::hideGeneratedLines(const std::string& calculatorType,
 // ---- files ----
 
 std::string ZOLWorkbook::getXMLString() const {
-    std::string out = ZOLXMLWriter::openDocument("Workbook");
+    std::string out;
+    // Room for the whole file at once (a worksheet is some 3 KB), so that it is never copied
+    // into a larger buffer half-way.
+    out.reserve(kXMLBytesPerWorksheet * (worksheets_.size() + 1) +
+                ZOLPricing::kXMLBytesPerItem *
+                    (pricingData_ ? pricingData_->priceItems().size() : 0));
+    ZOLXMLWriter::appendOpenDocument(out, "Workbook");
     out += "\t<Worksheets>\n";
     for (const auto& sheet : worksheets_) {
         if (sheet)
-            out += sheet->getXMLString();
+            sheet->appendXML(out);
     }
     out += "\t</Worksheets>\n";
     if (pricingData_)
-        out += pricingData_->getPartialXMLString();
+        pricingData_->appendPartialXML(out);
     std::optional<std::string> date;
     if (projectDate_)
         date = ZOLDateFormat::formatFileDate(*projectDate_);
-    out +=
-        ZOLFormat::format("\t<ProjectName>%@</ProjectName>\n"
+    ZOLFormat::append(out,
+                      "\t<ProjectName>%@</ProjectName>\n"
                           "\t<ClientName>%@</ClientName>\n"
                           "\t<ProjectDate>%@</ProjectDate>\n"
                           "\t<ProjectVersion>%@</ProjectVersion>\n"
@@ -426,11 +430,13 @@ std::string ZOLWorkbook::getXMLString() const {
 }
 
 std::string ZOLWorkbook::getCustomItemTemplateXMLString() const {
-    std::string out = ZOLXMLWriter::openDocument("CustomItems");
+    std::string out;
+    out.reserve(kXMLBytesPerCustomItem * (customItems_.size() + 1));
+    ZOLXMLWriter::appendOpenDocument(out, "CustomItems");
     out += "\t<Items>\n";
     for (const auto& item : customItems_) {
         if (item)
-            out += item->getXMLString();
+            item->appendXML(out);
     }
     out += "\t</Items>\n</CustomItems>";
     return out;

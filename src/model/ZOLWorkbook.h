@@ -69,6 +69,8 @@ public:
     // nothing.
     void addWorksheetsObject(std::shared_ptr<ZOLWorksheet> worksheet);
     bool worksheetExistsWithName(const std::string& name) const;
+    // The alert of a taken name, for a reader that gathers the worksheets itself.
+    static void alertDuplicateName();
 
     double getTotalGrossSquareFeet() const;
     double getTotalNetSquareFeet() const;
@@ -109,6 +111,10 @@ public:
     std::string getXMLString() const;
     // The job-summary template file holding every line of customItems.
     std::string getCustomItemTemplateXMLString() const;
+
+    // Room for one worksheet's and one job-summary line's elements in the files.
+    static constexpr std::size_t kXMLBytesPerWorksheet = 4096;
+    static constexpr std::size_t kXMLBytesPerCustomItem = 256;
 
 private:
     // Zeroes and hides the tied lines of that source whose names were just

@@ -37,22 +37,26 @@ void ZOLWorksheet::clear() {
 }
 
 std::string ZOLWorksheet::getXMLString() const {
+    std::string out;
+    appendXML(out);
+    return out;
+}
+
+void ZOLWorksheet::appendXML(std::string& out) const {
     // The name goes between double quotes with its markup characters escaped, so that a
     // quotation mark in a name cannot end the attribute.
-    std::string out =
-        ZOLFormat::format("\t\t<Worksheet Name=\"%@\">\n", ZOLXMLWriter::escape(name_));
+    ZOLFormat::append(out, "\t\t<Worksheet Name=\"%@\">\n", ZOLXMLWriter::escape(name_));
     if (concreteData_)
-        out += concreteData_->getXMLString();
+        concreteData_->appendXML(out);
     if (openingData_)
-        out += openingData_->getXMLString();
+        openingData_->appendXML(out);
     if (rebarData_)
-        out += rebarData_->getXMLString();
+        rebarData_->appendXML(out);
     if (tiltData_)
-        out += tiltData_->getXMLString();
+        tiltData_->appendXML(out);
     if (wallData_)
-        out += wallData_->getXMLString();
+        wallData_->appendXML(out);
     if (manHourData_)
-        out += manHourData_->getXMLString();
+        manHourData_->appendXML(out);
     out += "\t\t</Worksheet>\n";
-    return out;
 }

@@ -39,6 +39,7 @@ public:
     // records in the file's fixed order concrete, openings, rebar, tilt-up, wall,
     // man hours.
     std::string getXMLString() const;
+    void appendXML(std::string& out) const;
 
 private:
     std::string name_;

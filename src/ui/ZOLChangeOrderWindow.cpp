@@ -1,8 +1,7 @@
 #include "ui/ZOLChangeOrderWindow.h"
 
 #include "io/ZOLAtomicFile.h"
-#include "io/ZOLFileBytes.h"
-#include "io/ZOLSaxParser.h"
+#include "io/ZOLFileSaver.h"
 #include "io/ZOLWorkbookReader.h"
 #include "model/ZOLWorkbook.h"
 #include "platform/ZOLAlerts.h"
@@ -10,6 +9,7 @@
 #include "report/ZOLChangeOrderFormat.h"
 #include "report/ZOLPrintData.h"
 #include "ui/ZOLDocument.h"
+#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLReportRenderer.h"
@@ -26,10 +26,6 @@ namespace {
 
 std::string utf8(const QString& text) {
     return text.toUtf8().toStdString();
-}
-
-QString cannotOpen(const QString& name) {
-    return QObject::tr("The file “%1” couldn’t be opened.").arg(name);
 }
 
 } // namespace
@@ -63,11 +59,8 @@ std::shared_ptr<ZOLWorkbook> ZOLChangeOrderWindow::readWorkbook(const QByteArray
         std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
     if (result.ok() && !result.noWorkbookElement)
         return result.workbook;
-    // The reader has alerted about XML it could not read; bytes turned away before parsing
-    // get the alert the document gives them.
-    if (result.status == ZOLReadStatus::Refused)
-        ZOLAlerts::run(utf8(cannotOpen(name)),
-                       "It is not a Zol Estimator workbook, or it is damaged.", {"OK"});
+    // The reader has alerted about a file without a workbook.
+    ZOLFileAlerts::accepted(name, ZOLFileKind::Workbook, result.status);
     return nullptr;
 }
 
@@ -90,13 +83,9 @@ ZOLChangeOrderWindow* ZOLChangeOrderWindow::compareWithDocument(ZOLDocument* doc
         if (path.isEmpty())
             return nullptr;
         oldVersion = QFileInfo(path).fileName();
-        std::string error;
-        const auto bytes = ZOLFileBytes::read(QFile::encodeName(path).toStdString(),
-                                              ZOLSaxParser::kMaxDocumentBytes, &error);
-        if (!bytes) {
-            ZOLAlerts::run(utf8(cannotOpen(oldVersion)), error, {"OK"});
+        const auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::Workbook);
+        if (!bytes)
             return nullptr;
-        }
         olderBytes = QByteArray(bytes->data(), static_cast<qsizetype>(bytes->size()));
         olderSnapshot = document->snapshotStore().load(path, olderBytes).value_or(QByteArray());
     }

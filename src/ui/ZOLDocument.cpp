@@ -1,8 +1,6 @@
 #include "ui/ZOLDocument.h"
 
-#include "io/ZOLFileBytes.h"
 #include "io/ZOLFileSaver.h"
-#include "io/ZOLSaxParser.h"
 #include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
@@ -14,6 +12,7 @@
 #include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
+#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLHelpMenu.h"
 #include "ui/ZOLJobSnapshot.h"
@@ -507,20 +506,15 @@ QStringList ZOLDocument::showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
 }
 
 bool ZOLDocument::readFromFile(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
-    std::string error;
-    auto bytes = ZOLFileBytes::read(nativePath(path), ZOLSaxParser::kMaxDocumentBytes, &error);
-    if (!bytes) {
-        ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)), error, {"OK"});
+    auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::Workbook);
+    if (!bytes)
         return false;
-    }
     const QByteArray data(bytes->data(), static_cast<qsizetype>(bytes->size()));
     bool wrongFormat = false;
     auto workbook = readWorkbook(data, &wrongFormat);
     if (!workbook) {
-        if (wrongFormat)
-            ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)),
-                           "It is not a Zol Estimator workbook, or it is damaged.", {"OK"});
+        ZOLFileAlerts::accepted(path, ZOLFileKind::Workbook,
+                                wrongFormat ? ZOLReadStatus::Refused : ZOLReadStatus::ParseError);
         return false;
     }
     // The same file, unchanged since this computer saved it: the job comes back whole.

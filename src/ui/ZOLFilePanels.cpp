@@ -1,14 +1,8 @@
 #include "ui/ZOLFilePanels.h"
 
-#include "io/ZOLFileBytes.h"
-#include "io/ZOLFileSaver.h"
-#include "io/ZOLReadCheck.h"
-#include "io/ZOLSaxParser.h"
-#include "platform/ZOLAlerts.h"
 #include "ui/ZOLSettingsPreferences.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QSettings>
@@ -42,22 +36,6 @@ QString ZOLFilePanels::filterFor(const QString& suffix) {
     if (suffix == "csv")
         return QObject::tr("Spreadsheets, comma-separated (*.csv)");
     return QStringLiteral("*.%1").arg(suffix);
-}
-
-std::optional<std::string> ZOLFilePanels::readChosenFile(const QString& path) {
-    auto bytes =
-        ZOLFileBytes::read(QFile::encodeName(path).toStdString(), ZOLSaxParser::kMaxDocumentBytes);
-    if (!bytes)
-        ZOLAlerts::run(ZOLReadCheck::kWrongFormatMessage, "", {"OK"});
-    return bytes;
-}
-
-void ZOLFilePanels::writeChosenFile(const QString& path, std::string_view bytes, ZOLFileKind kind,
-                                    const char* refusal) {
-    std::string error;
-    if (ZOLFileSaver::save(QFile::encodeName(path).toStdString(), bytes, kind, &error) ==
-        ZOLFileSaver::Outcome::Unreadable)
-        ZOLAlerts::run(refusal, error, {"OK"});
 }
 
 void ZOLFilePanels::setScript(Script s) {

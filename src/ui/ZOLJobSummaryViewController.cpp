@@ -7,6 +7,7 @@
 #include "model/ZOLWorkbook.h"
 #include "platform/ZOLAlerts.h"
 #include "ui/ZOLCustomItemForm.h"
+#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLJobSummaryTableModel.h"
@@ -243,8 +244,8 @@ void ZOLJobSummaryViewController::saveTemplate() {
 void ZOLJobSummaryViewController::saveTemplateFile(const QString& path) {
     if (!workbook_)
         return;
-    ZOLFilePanels::writeChosenFile(path, workbook_->getCustomItemTemplateXMLString(),
-                                   ZOLFileKind::Template, "The template could not be saved.");
+    ZOLFileAlerts::writeFile(path, workbook_->getCustomItemTemplateXMLString(),
+                             ZOLFileKind::Template, "The template could not be saved.");
 }
 
 void ZOLJobSummaryViewController::loadTemplate() {
@@ -257,10 +258,10 @@ void ZOLJobSummaryViewController::loadTemplate() {
 }
 
 void ZOLJobSummaryViewController::loadTemplateFile(const QString& path) {
-    // The reader turns the wrong format away itself and reports broken XML.
-    const auto bytes = ZOLFilePanels::readChosenFile(path);
+    const auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::Template);
     if (bytes && workbook_ &&
-        ZOLTemplateReader::readTemplateData(*bytes, *workbook_) == ZOLReadStatus::Read)
+        ZOLFileAlerts::accepted(path, ZOLFileKind::Template,
+                                ZOLTemplateReader::readTemplateData(*bytes, *workbook_)))
         emit edited();
     loadValues();
 }

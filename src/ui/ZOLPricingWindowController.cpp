@@ -4,6 +4,7 @@
 #include "io/ZOLPriceFileReader.h"
 #include "io/ZOLText.h"
 #include "model/ZOLPricing.h"
+#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLPriceTableModel.h"
 #include "ui_ZOLPricing.h"
@@ -81,9 +82,9 @@ void ZOLPricingWindowController::openPricing() {
 }
 
 void ZOLPricingWindowController::openPricingFile(const QString& path) {
-    // The reader turns the wrong format away itself.
-    if (auto bytes = ZOLFilePanels::readChosenFile(path); bytes && pricingData_)
-        ZOLPriceFileReader::readPriceData(*bytes, *pricingData_);
+    if (auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::PriceList); bytes && pricingData_)
+        ZOLFileAlerts::accepted(path, ZOLFileKind::PriceList,
+                                ZOLPriceFileReader::readPriceData(*bytes, *pricingData_));
     loadData();
 }
 
@@ -97,8 +98,8 @@ void ZOLPricingWindowController::savePricing() {
 void ZOLPricingWindowController::savePricingFile(const QString& path) {
     if (!pricingData_)
         return;
-    ZOLFilePanels::writeChosenFile(path, pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
-                                   "The price list could not be saved.");
+    ZOLFileAlerts::writeFile(path, pricingData_->getFullXMLString(), ZOLFileKind::PriceList,
+                             "The price list could not be saved.");
 }
 
 void ZOLPricingWindowController::useSavedPrices() {

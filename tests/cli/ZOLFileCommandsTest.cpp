@@ -62,6 +62,7 @@ TEST(ZOLFileCommands, NewAndResaveWriteWhatTheApplicationSaves) {
 }
 
 TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
+    // Where the XML is broken, the path names the line and column where reading stopped.
     TempFolder folder;
     TempFolder::write(folder / "broken.zol", "<?xml version=\"1.0\"?>\n<Workbook>\n\t<Works");
     TempFolder::write(folder / "photo.zol", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16));
@@ -74,8 +75,8 @@ TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
     for (const auto& [file, message] : std::vector<std::pair<std::string, std::string>>{
              {"missing.zol", kOpenError + folder / "missing.zol: No such file or directory\n"},
              {"folder.zol", kOpenError + folder / "folder.zol: Is a directory\n"},
-             {"broken.zol", kOpenError + folder / "broken.zol\n"},
-             {"encoded.zol", kOpenError + folder / "encoded.zol\n"},
+             {"broken.zol", kOpenError + folder / "broken.zol:3:8\n"},
+             {"encoded.zol", kOpenError + folder / "encoded.zol:2:24\n"},
              {"prices.zol", kOpenError + folder / "prices.zol\n"},
              {"photo.zol", kWrongFormat + folder / "photo.zol\n"}}) {
         for (const auto& args : std::vector<std::vector<std::string>>{
@@ -94,9 +95,9 @@ TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
     for (const auto& [args, message] :
          std::vector<std::pair<std::vector<std::string>, std::string>>{
              {{"prices", "import", kSample, folder / "cut.zp", "-o", folder / "out.zol"},
-              kOpenError + folder / "cut.zp\n"},
+              kOpenError + folder / "cut.zp:19:12\n"},
              {{"takeoff", kSample, "--prices", folder / "cut.zp"},
-              kOpenError + folder / "cut.zp\n"},
+              kOpenError + folder / "cut.zp:19:12\n"},
              {{"takeoff", kSample, "--template", folder / "empty.zci"},
               kWrongFormat + folder / "empty.zci\n"}}) {
         const auto run = runZolest(args);
