@@ -1,9 +1,5 @@
 #include "ui/ZOLDocument.h"
 
-#include "io/ZOLFileBytes.h"
-#include "io/ZOLFileSaver.h"
-#include "io/ZOLSaxParser.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
@@ -16,7 +12,6 @@
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLHelpMenu.h"
-#include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLJobSummaryViewController.h"
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
@@ -52,7 +47,6 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
-#include <QTimer>
 #include <QUrl>
 
 namespace {
@@ -68,10 +62,6 @@ std::string utf8(const QString& text) {
     return text.toUtf8().toStdString();
 }
 
-std::string nativePath(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
 const char* kDuplicateWorksheet =
     "A worksheet with that name already exists. Please try again with a different worksheet "
     "name.";
@@ -79,12 +69,14 @@ const char* kDuplicateWorksheet =
 
 ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     : QMainWindow(parent), ui_(std::make_unique<Ui::ZOLDocument>()), controller_(controller),
-      autosaveTimer_(new QTimer(this)) {
+      job_(new ZOLJobDocument(this)) {
     ui_->setupUi(this);
     fitToScreen();
     setAttribute(Qt::WA_DeleteOnClose, controller_ != nullptr);
-    if (controller_)
-        untitledNumber_ = controller_->nextUntitledNumber();
+    if (controller_) {
+        job_->setUntitledNumber(controller_->nextUntitledNumber());
+        job_->setRecoverySlotMaker([this] { return controller_->recoveryStore().createSlot(); });
+    }
 
     // The header sits on a black band; the screens below keep the ordinary colours. The
     // ordinary palette is set role by role so that the band's colours do not pass through.
@@ -103,14 +95,24 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
           static_cast<QWidget*>(ui_->notes)})
         widget->setPalette(ordinary);
 
-    autosaveTimer_->setSingleShot(true);
-    connect(autosaveTimer_, &QTimer::timeout, this, &ZOLDocument::autosave);
+    connect(job_, &ZOLJobDocument::workbookReplaced, this, [this] {
+        showWorkbook();
+        updateSavedPricesBar();
+    });
+    connect(job_, &ZOLJobDocument::pricesReplaced, this, [this] {
+        updateSavedPricesBar();
+        reloadScreens();
+    });
+    connect(job_, &ZOLJobDocument::editedChanged, this, &ZOLDocument::editedDidChange);
+    connect(job_, &ZOLJobDocument::fileChanged, this, &ZOLDocument::fileDidChange);
+    connect(job_, &ZOLJobDocument::statusMessage, statusBar(),
+            [this](const QString& message) { statusBar()->showMessage(message); });
 
     savedPricesBar_ = new ZOLSavedPricesBar(ui_->mainView);
     savedPricesBar_->hide();
     ui_->mainLayout->insertWidget(ui_->mainLayout->indexOf(ui_->tabView), savedPricesBar_);
-    connect(savedPricesBar_, &ZOLSavedPricesBar::useSavedPrices, this,
-            &ZOLDocument::useSavedPrices);
+    connect(savedPricesBar_, &ZOLSavedPricesBar::useSavedPrices, job_,
+            &ZOLJobDocument::useSavedPrices);
 
     installScreens();
     buildMenus();
@@ -123,10 +125,7 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     connect(ui_->deleteWorksheet, &QPushButton::clicked, this, &ZOLDocument::deleteWorksheet);
     connect(ui_->notes, &QPushButton::clicked, this, &ZOLDocument::editNotes);
 
-    loadWorkbook(nullptr);
-    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
+    showWorkbook();
     updateTitle();
 }
 
@@ -209,7 +208,7 @@ void ZOLDocument::installScreens() {
     workbookSummary_ = addScreen<ZOLWorkbookSummaryViewController>(
         tr("Workbook Summary"), "workbookSummaryScrollView", "workbookSummaryTab",
         [this](ZOLWorkbookSummaryViewController* screen, const Sheet&, const std::string&) {
-            screen->setWorkbook(workbook_);
+            screen->setWorkbook(workbook());
         });
     auto* concreteEntry = addScreen<ZOLConcreteEntryViewController>(
         tr("Concrete"), "concreteEntryScrollView", "concreteEntryTab",
@@ -251,7 +250,7 @@ void ZOLDocument::installScreens() {
     auto* jobSummary = addScreen<ZOLJobSummaryViewController>(
         tr("Job Summary"), "jobSummaryScrollView", "jobSummaryTab",
         [this](ZOLJobSummaryViewController* screen, const Sheet&, const std::string&) {
-            screen->setWorkbook(workbook_);
+            screen->setWorkbook(workbook());
         });
     connect(jobSummary, &ZOLJobSummaryViewController::edited, this, &ZOLDocument::noteEdit);
 }
@@ -285,18 +284,19 @@ void ZOLDocument::tabViewDidSelect(int index) {
 // Workbook and worksheets
 
 void ZOLDocument::loadWorkbook(std::shared_ptr<ZOLWorkbook> workbook) {
-    if (!workbook)
-        workbook = std::make_shared<ZOLWorkbook>();
-    workbook_ = std::move(workbook);
+    job_->setWorkbook(std::move(workbook));
+    showWorkbook();
+}
 
+void ZOLDocument::showWorkbook() {
     loading_ = true;
-    const auto date = workbook_->projectDate();
+    const auto date = workbook()->projectDate();
     ui_->projectDate->setDateTime(
         QDateTime::fromSecsSinceEpoch(date ? *date : QDateTime::currentSecsSinceEpoch()));
-    ui_->projectName->setText(qs(workbook_->projectName()));
-    ui_->clientName->setText(qs(workbook_->clientName()));
-    ui_->projectVersion->setText(qs(workbook_->projectVersion()));
-    ui_->distributorName->setText(qs(workbook_->distributorName()));
+    ui_->projectName->setText(qs(workbook()->projectName()));
+    ui_->clientName->setText(qs(workbook()->clientName()));
+    ui_->projectVersion->setText(qs(workbook()->projectVersion()));
+    ui_->distributorName->setText(qs(workbook()->distributorName()));
     loading_ = false;
 
     reloadWorksheetSelector();
@@ -308,13 +308,13 @@ void ZOLDocument::reloadWorksheetSelector() {
     const QSignalBlocker blocker(box);
     const int selected = box->currentIndex();
     box->clear();
-    for (const auto& sheet : workbook_->worksheets())
+    for (const auto& sheet : workbook()->worksheets())
         box->addItem(qs(sheet->name()));
     box->setCurrentIndex(selected < box->count() ? selected : -1);
 }
 
 void ZOLDocument::loadWorksheetDataWithIndex(int32_t index) {
-    const auto& sheets = workbook_->worksheets();
+    const auto& sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
@@ -348,11 +348,11 @@ void ZOLDocument::addWorksheet() {
                             ZOLFieldAlertPresenter::Field::Line);
     if (answer != 0)
         return;
-    if (workbook_->worksheetExistsWithName(name)) {
+    if (workbook()->worksheetExistsWithName(name)) {
         ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
         return;
     }
-    workbook_->addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
+    workbook()->addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
     reloadWorksheetSelector();
     {
         const QSignalBlocker blocker(ui_->worksheetSelection);
@@ -364,7 +364,7 @@ void ZOLDocument::addWorksheet() {
 
 void ZOLDocument::renameWorksheet() {
     const int32_t index = selectedWorksheetIndex();
-    const auto& sheets = workbook_->worksheets();
+    const auto& sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
@@ -375,7 +375,7 @@ void ZOLDocument::renameWorksheet() {
                             ZOLFieldAlertPresenter::Field::Line);
     if (answer != 0 || name == sheet->name())
         return;
-    if (workbook_->worksheetExistsWithName(name)) {
+    if (workbook()->worksheetExistsWithName(name)) {
         ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
         return;
     }
@@ -390,11 +390,11 @@ void ZOLDocument::deleteWorksheet() {
         0)
         return;
     const int32_t index = selectedWorksheetIndex();
-    auto sheets = workbook_->worksheets();
+    auto sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     sheets.erase(sheets.begin() + index);
-    workbook_->setWorksheets(std::move(sheets));
+    workbook()->setWorksheets(std::move(sheets));
     // The screens and the selector's text still show the deleted worksheet until another one
     // is chosen, but the selector offers only the worksheets that remain, each under its own
     // name; nothing is chosen in it, so Rename and Delete find no worksheet to act on.
@@ -410,7 +410,7 @@ void ZOLDocument::deleteWorksheet() {
 }
 
 void ZOLDocument::editNotes() {
-    std::string notes = workbook_->notes().value_or(std::string());
+    std::string notes = workbook()->notes().value_or(std::string());
     // The workbook file has no place for notes: say where they live.
     if (ZOLFieldAlerts::run({"Project Notes",
                              "Notes are kept on this computer with the job and print with the "
@@ -418,12 +418,12 @@ void ZOLDocument::editNotes() {
                              {"Done", "Cancel"}},
                             notes, ZOLFieldAlertPresenter::Field::Text) != 0)
         return;
-    workbook_->setNotes(notes);
+    workbook()->setNotes(notes);
     noteEdit();
 }
 
 void ZOLDocument::editPricing() {
-    ZOLPricingWindowController window(workbook_->pricingData(), this);
+    ZOLPricingWindowController window(workbook()->pricingData(), this);
     window.exec();
     if (workbookSummary_)
         workbookSummary_->loadValues();
@@ -442,29 +442,29 @@ void ZOLDocument::displayBulletins() {
 void ZOLDocument::connectHeader() {
     // Each keystroke goes straight into the workbook.
     connect(ui_->projectName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setProjectName(utf8(text));
+        workbook()->setProjectName(utf8(text));
         noteEdit();
     });
     connect(ui_->clientName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setClientName(utf8(text));
+        workbook()->setClientName(utf8(text));
         noteEdit();
     });
     connect(ui_->projectVersion, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setProjectVersion(utf8(text));
+        workbook()->setProjectVersion(utf8(text));
         noteEdit();
     });
     connect(ui_->distributorName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setDistributorName(utf8(text));
+        workbook()->setDistributorName(utf8(text));
         noteEdit();
     });
     // A new day keeps the time of day the project was dated with.
     connect(ui_->projectDate, &QDateEdit::dateChanged, this, [this](const QDate& date) {
         if (loading_ || !date.isValid())
             return;
-        const auto old = workbook_->projectDate();
+        const auto old = workbook()->projectDate();
         const QTime time =
             QDateTime::fromSecsSinceEpoch(old ? *old : QDateTime::currentSecsSinceEpoch()).time();
-        workbook_->setProjectDate(QDateTime(date, time).toSecsSinceEpoch());
+        workbook()->setProjectDate(QDateTime(date, time).toSecsSinceEpoch());
         noteEdit();
     });
 }
@@ -472,134 +472,26 @@ void ZOLDocument::connectHeader() {
 // ---------------------------------------------------------------------------------------------
 // Files
 
-QByteArray ZOLDocument::dataOfType(const QString&) const {
-    const std::string xml = workbook_->getXMLString();
-    return QByteArray(xml.data(), static_cast<qsizetype>(xml.size()));
-}
-
-QByteArray ZOLDocument::jobState() const {
-    return dataOfType() + QByteArray(1, '\0') + ZOLJobSnapshot::capture(*workbook_);
-}
-
-std::shared_ptr<ZOLWorkbook> ZOLDocument::readWorkbook(const QByteArray& bytes, bool* wrongFormat) {
-    const auto result = ZOLWorkbookReader::readWorkbookData(
-        std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
-    if (wrongFormat)
-        *wrongFormat = result.status == ZOLReadStatus::Refused;
-    return result.ok() ? result.workbook : nullptr;
-}
-
-bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
-    auto workbook = readWorkbook(bytes, wrongFormat);
-    if (!workbook)
-        return false;
-    showWithSnapshot(std::move(workbook), QByteArray());
-    return true;
-}
-
-QStringList ZOLDocument::showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
-                                          const QByteArray& snapshot) {
-    const QStringList restored =
-        snapshot.isEmpty() ? QStringList() : ZOLJobSnapshot::apply(snapshot, *workbook);
-    loadWorkbook(std::move(workbook));
-    updateSavedPricesBar();
-    return restored;
-}
-
-bool ZOLDocument::readFromFile(const QString& path) {
-    const QString name = QFileInfo(path).fileName();
-    std::string error;
-    auto bytes = ZOLFileBytes::read(nativePath(path), ZOLSaxParser::kMaxDocumentBytes, &error);
-    if (!bytes) {
-        ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)), error, {"OK"});
-        return false;
-    }
-    const QByteArray data(bytes->data(), static_cast<qsizetype>(bytes->size()));
-    bool wrongFormat = false;
-    auto workbook = readWorkbook(data, &wrongFormat);
-    if (!workbook) {
-        if (wrongFormat)
-            ZOLAlerts::run(utf8(tr("The file “%1” couldn’t be opened.").arg(name)),
-                           "It is not a Zol Estimator workbook, or it is damaged.", {"OK"});
-        return false;
-    }
-    // The same file, unchanged since this computer saved it: the job comes back whole.
-    const QStringList restored = showWithSnapshot(
-        std::move(workbook), snapshots_.load(path, data).value_or(QByteArray()));
-    if (!restored.isEmpty())
-        statusBar()->showMessage(tr("Restored from this computer: %1").arg(restored.join(", ")));
-    fileBytesAtSave_ = data;
-    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    autosavedSinceSave_ = false;
-    recovery_.reset();
-    setFilePath(path);
-    setEdited(false);
-    return true;
-}
-
-bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes,
-                            const QByteArray& snapshot, bool reportFailure) {
-    std::string error;
-    if (ZOLFileSaver::save(nativePath(path),
-                           std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
-                           ZOLFileKind::Workbook, &error) == ZOLFileSaver::Outcome::Saved) {
-        snapshots_.save(path, bytes, snapshot);
-        return true;
-    }
-    const QString message =
-        tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName());
-    if (reportFailure)
-        ZOLAlerts::run(utf8(message), error, {"OK"});
-    else
-        statusBar()->showMessage(message + QLatin1Char(' ') + qs(error) + QLatin1Char(' ') +
-                                 tr("Autosave tries again after your next change."));
-    return false;
-}
-
-bool ZOLDocument::saveToFile(const QString& path) {
-    // The job summary's generated lines as the worksheets now price them, as reopening shows them.
-    workbook_->generateCustomItems();
-    const QByteArray bytes = dataOfType();
-    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
-    if (!writeFile(path, bytes, snapshot, true))
-        return false;
-    const QString canonical = QFileInfo(path).absoluteFilePath();
-    if (canonical != filePath_ && !filePath_.isEmpty() && autosavedSinceSave_)
-        restoreLastSaved(); // the old file goes back to what the user saved in it
-    fileBytesAtSave_ = bytes;
-    snapshotAtSave_ = snapshot;
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    autosavedSinceSave_ = false;
-    autosaveTimer_->stop();
-    recovery_.reset();
-    setFilePath(canonical);
-    setEdited(false);
-    return true;
+bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
+    return job_->restoreFromRecovery(std::move(slot));
 }
 
 bool ZOLDocument::save() {
-    if (filePath_.isEmpty())
+    if (filePath().isEmpty())
         return saveAs();
-    return saveToFile(filePath_);
+    return saveToFile(filePath());
 }
 
 bool ZOLDocument::saveAs() {
-    QString suggested = qs(workbook_->projectName()).trimmed();
-    if (suggested.isEmpty())
-        suggested = displayName();
-    suggested.replace('/', '-');
-    const QString path = ZOLFilePanels::saveFile(this, tr("Save Workbook"), "zol",
-                                                 QFileInfo(suggested).completeBaseName() + ".zol");
+    const QString path =
+        ZOLFilePanels::saveFile(this, tr("Save Workbook"), "zol", job_->suggestedFileName());
     if (path.isEmpty())
         return false;
     return saveToFile(path);
 }
 
 void ZOLDocument::revertDocumentToSaved() {
-    if (filePath_.isEmpty() || !edited_)
+    if (filePath().isEmpty() || !isDocumentEdited())
         return;
     const QString message =
         tr("Do you want to revert to the most recently saved version of the document “%1”?")
@@ -607,135 +499,42 @@ void ZOLDocument::revertDocumentToSaved() {
     if (ZOLAlerts::run(utf8(message), "Your current changes will be lost.", {"Revert", "Cancel"}) !=
         0)
         return;
-    auto workbook = readWorkbook(fileBytesAtSave_, nullptr);
-    if (!workbook)
-        return;
-    showWithSnapshot(std::move(workbook), snapshotAtSave_);
-    restoreLastSaved();
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    setEdited(false);
+    job_->revertToSaved();
 }
 
-void ZOLDocument::restoreLastSaved() {
-    if (!autosavedSinceSave_ || filePath_.isEmpty())
-        return;
-    if (writeFile(filePath_, fileBytesAtSave_, snapshotAtSave_, false))
-        autosavedSinceSave_ = false;
-}
-
-void ZOLDocument::setFilePath(const QString& path) {
-    filePath_ = path;
+void ZOLDocument::fileDidChange(const QString& path) {
     if (controller_ && !path.isEmpty())
         controller_->recentFiles()->add(path);
     if (revertAction_)
-        revertAction_->setEnabled(!filePath_.isEmpty() && edited_);
+        revertAction_->setEnabled(!path.isEmpty() && isDocumentEdited());
     updateTitle();
     emit fileChanged(path);
 }
 
-QString ZOLDocument::displayName() const {
-    if (!filePath_.isEmpty())
-        return QFileInfo(filePath_).fileName();
-    return untitledNumber_ <= 1 ? tr("Untitled") : tr("Untitled %1").arg(untitledNumber_);
-}
-
 void ZOLDocument::updateTitle() {
     setWindowTitle(displayName() + QStringLiteral("[*]"));
-    setWindowFilePath(filePath_);
-    setWindowModified(edited_);
+    setWindowFilePath(filePath());
+    setWindowModified(isDocumentEdited());
 }
 
-void ZOLDocument::setEdited(bool edited) {
+void ZOLDocument::editedDidChange(bool edited) {
     if (revertAction_)
-        revertAction_->setEnabled(!filePath_.isEmpty() && edited);
-    if (edited == edited_)
-        return;
-    edited_ = edited;
-    setWindowModified(edited_);
-    emit editedChanged(edited_);
-}
-
-void ZOLDocument::noteEdit() {
-    const QByteArray now = jobState();
-    setEdited(now != cleanState_);
-    if (!edited_) {
-        // Back where the user saved: nothing of these edits should outlive the session.
-        autosaveTimer_->stop();
-        restoreLastSaved();
-        recovery_.reset();
-        lastAutosaved_ = now;
-        return;
-    }
-    if (now != lastAutosaved_)
-        startAutosaveTimer();
-}
-
-void ZOLDocument::startAutosaveTimer() {
-    // Not restarted by every keystroke, so steady typing is still saved within the delay.
-    if (!autosaveTimer_->isActive())
-        autosaveTimer_->start(ZOLSettingsKeys::autosaveDelaySeconds() * 1000);
-}
-
-void ZOLDocument::autosave() {
-    autosaveTimer_->stop();
-    if (!edited_)
-        return;
-    const QByteArray state = jobState();
-    if (state == lastAutosaved_)
-        return;
-    const QByteArray bytes = dataOfType();
-    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
-    if (!filePath_.isEmpty()) {
-        // A failure is said in the status bar; the next edit starts the timer again.
-        if (writeFile(filePath_, bytes, snapshot, false)) {
-            autosavedSinceSave_ = true;
-            lastAutosaved_ = state;
-        }
-        return;
-    }
-    if (!recovery_) {
-        ZOLRecoveryStore fallback;
-        recovery_ = controller_ ? controller_->recoveryStore().createSlot() : fallback.createSlot();
-    }
-    if (recovery_->write(bytes, snapshot))
-        lastAutosaved_ = state;
-}
-
-bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
-    if (!slot)
-        return false;
-    const QByteArray bytes = slot->read();
-    // The reader's own alerts still show: a damaged recovery file is reported as such.
-    auto workbook = readWorkbook(bytes, nullptr);
-    if (!workbook)
-        return false;
-    showWithSnapshot(std::move(workbook), slot->readSnapshot());
-    recovery_ = std::move(slot);
-    cleanState_.clear(); // nothing of it was ever saved
-    lastAutosaved_ = jobState();
-    setEdited(true);
-    return true;
+        revertAction_->setEnabled(!filePath().isEmpty() && edited);
+    setWindowModified(edited);
+    emit editedChanged(edited);
 }
 
 void ZOLDocument::updateSavedPricesBar() {
-    const auto& pricing = workbook_->pricingData();
-    savedPricesBar_->setVisible(pricing && pricing->savedItemsChangePrices());
+    savedPricesBar_->setVisible(job_->savedPricesDiffer());
 }
 
-void ZOLDocument::useSavedPrices() {
-    const auto& pricing = workbook_->pricingData();
-    if (!pricing || !pricing->useSavedItems())
-        return;
-    updateSavedPricesBar();
+void ZOLDocument::reloadScreens() {
     for (const Screen& screen : screens_)
         screen.loadValues();
-    noteEdit();
-    statusBar()->showMessage(tr("The job is priced with the prices saved in the workbook."));
 }
 
 bool ZOLDocument::canClose() {
-    if (!edited_)
+    if (!isDocumentEdited())
         return true;
     const QString message =
         tr("Do you want to save the changes you made in the document “%1”?").arg(displayName());
@@ -745,8 +544,7 @@ bool ZOLDocument::canClose() {
     if (answer == 0)
         return save();
     if (answer == 1) {
-        restoreLastSaved();
-        recovery_.reset();
+        job_->discardChanges();
         return true;
     }
     return false;
@@ -757,8 +555,7 @@ void ZOLDocument::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    autosaveTimer_->stop();
-    recovery_.reset();
+    job_->close();
     event->accept();
 }
 
@@ -774,7 +571,7 @@ ZOLReportRenderer* ZOLDocument::renderer() {
 
 std::optional<std::string> ZOLDocument::reportFromPrintSettings(const QString& acceptTitle) {
     ZOLPrintSettingsWindowController window(this);
-    window.setNumberOfWorksheets(static_cast<int32_t>(workbook_->worksheets().size()));
+    window.setNumberOfWorksheets(static_cast<int32_t>(workbook()->worksheets().size()));
     window.setAcceptTitle(acceptTitle);
     window.exec();
     if (!window.acceptChanges())
@@ -782,8 +579,8 @@ std::optional<std::string> ZOLDocument::reportFromPrintSettings(const QString& a
     const auto settings = window.getZolPrintSettings();
     const auto all = settings.find("PrintAllWorksheets");
     if (all != settings.end() && all->second)
-        return ZOLPrintData::getHTMLWithWorkbook(workbook_, settings);
-    return ZOLPrintData::getHTMLWithWorkbook(workbook_, selectedWorksheetIndex(), settings);
+        return ZOLPrintData::getHTMLWithWorkbook(workbook(), settings);
+    return ZOLPrintData::getHTMLWithWorkbook(workbook(), selectedWorksheetIndex(), settings);
 }
 
 void ZOLDocument::printDocument() {
