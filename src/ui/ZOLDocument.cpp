@@ -32,6 +32,7 @@
 #include "ui/ZOLWorkbookSummaryViewController.h"
 #include "ui_ZOLDocument.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
@@ -39,7 +40,9 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QKeySequence>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPageSize>
 #include <QPrintDialog>
@@ -47,6 +50,8 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUndoStack>
 #include <QUrl>
 
 namespace {
@@ -103,6 +108,8 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
         updateSavedPricesBar();
         reloadScreens();
     });
+    connect(job_, &ZOLJobDocument::changeApplied, this, &ZOLDocument::showChange);
+    job_->setPlaceOfEdit([this] { return placeOfEdit(); });
     connect(job_, &ZOLJobDocument::editedChanged, this, &ZOLDocument::editedDidChange);
     connect(job_, &ZOLJobDocument::fileChanged, this, &ZOLDocument::fileDidChange);
     connect(job_, &ZOLJobDocument::statusMessage, statusBar(),
@@ -126,7 +133,9 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     connect(ui_->notes, &QPushButton::clicked, this, &ZOLDocument::editNotes);
 
     showWorkbook();
+    job_->startUnedited();
     updateTitle();
+    qApp->installEventFilter(this);
 }
 
 ZOLDocument::~ZOLDocument() = default;
@@ -286,9 +295,10 @@ void ZOLDocument::tabViewDidSelect(int index) {
 void ZOLDocument::loadWorkbook(std::shared_ptr<ZOLWorkbook> workbook) {
     job_->setWorkbook(std::move(workbook));
     showWorkbook();
+    job_->resetHistory();
 }
 
-void ZOLDocument::showWorkbook() {
+void ZOLDocument::showHeader() {
     loading_ = true;
     const auto date = workbook()->projectDate();
     ui_->projectDate->setDateTime(
@@ -298,7 +308,10 @@ void ZOLDocument::showWorkbook() {
     ui_->projectVersion->setText(qs(workbook()->projectVersion()));
     ui_->distributorName->setText(qs(workbook()->distributorName()));
     loading_ = false;
+}
 
+void ZOLDocument::showWorkbook() {
+    showHeader();
     reloadWorksheetSelector();
     loadWorksheetDataWithIndex(0);
 }
@@ -359,7 +372,7 @@ void ZOLDocument::addWorksheet() {
         ui_->worksheetSelection->setCurrentIndex(ui_->worksheetSelection->count() - 1);
     }
     loadWorksheetDataWithIndex(selectedWorksheetIndex());
-    noteEdit();
+    job_->noteEdit(tr("Add Worksheet \"%1\"").arg(qs(name)));
 }
 
 void ZOLDocument::renameWorksheet() {
@@ -375,6 +388,7 @@ void ZOLDocument::renameWorksheet() {
                             ZOLFieldAlertPresenter::Field::Line);
     if (answer != 0 || name == sheet->name())
         return;
+    const QString oldName = qs(sheet->name());
     if (workbook()->worksheetExistsWithName(name)) {
         ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
         return;
@@ -382,7 +396,7 @@ void ZOLDocument::renameWorksheet() {
     sheet->setName(name);
     // Only the selector shows the new name; the screens keep theirs until the next reload.
     reloadWorksheetSelector();
-    noteEdit();
+    job_->noteEdit(tr("Rename Worksheet \"%1\"").arg(oldName));
 }
 
 void ZOLDocument::deleteWorksheet() {
@@ -406,7 +420,7 @@ void ZOLDocument::deleteWorksheet() {
         box->setPlaceholderText(shown);
         box->setCurrentIndex(-1);
     }
-    noteEdit();
+    job_->noteEdit(tr("Delete Worksheet \"%1\"").arg(shown));
 }
 
 void ZOLDocument::editNotes() {
@@ -424,6 +438,7 @@ void ZOLDocument::editNotes() {
 
 void ZOLDocument::editPricing() {
     ZOLPricingWindowController window(workbook()->pricingData(), this);
+    watchPricing(&window);
     window.exec();
     if (workbookSummary_)
         workbookSummary_->loadValues();
@@ -672,6 +687,16 @@ void ZOLDocument::buildMenus() {
         quit->setMenuRole(QAction::QuitRole);
     }
 
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    undoAction_ = job_->undoStack()->createUndoAction(this, tr("&Undo"));
+    undoAction_->setShortcut(QKeySequence::Undo);
+    redoAction_ = job_->undoStack()->createRedoAction(this, tr("&Redo"));
+    // Ctrl+Y as well, which estimators know from their spreadsheets.
+    redoAction_->setShortcuts(QList<QKeySequence>{QKeySequence::keyBindings(QKeySequence::Redo)}
+                              << QKeySequence(tr("Ctrl+Y")));
+    edit->addAction(undoAction_);
+    edit->addAction(redoAction_);
+
     QMenu* workbook = menuBar()->addMenu(tr("&Workbook"));
     workbook->addAction(tr("&Add Worksheet…"), this, &ZOLDocument::addWorksheet);
     workbook->addAction(tr("&Rename Worksheet…"), this, &ZOLDocument::renameWorksheet);
@@ -686,4 +711,142 @@ void ZOLDocument::buildMenus() {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Technical Bulletins"), this, &ZOLDocument::displayBulletins);
     ZOLHelpMenu::addActions(help, this);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Undo and redo
+
+namespace {
+// How the user knows a control: its label, or its own caption, without accelerator marks.
+QString labelOf(const QWidget* control, const QWidget* window) {
+    QString text;
+    for (QLabel* label : window->findChildren<QLabel*>())
+        if (label->buddy() == control) {
+            text = label->text();
+            break;
+        }
+    if (text.isEmpty())
+        if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+            text = button->text();
+    if (text.isEmpty())
+        text = control->accessibleName();
+    text.remove(QLatin1Char('&'));
+    text = text.trimmed();
+    while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0x2026)) ||
+           text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    // Named as menu commands are: "Wall length" becomes "Undo Wall Length".
+    static const QStringList kSmallWords{"a",  "an", "and", "at",  "by",  "for", "in",
+                                         "of", "on", "or",  "per", "the", "to",  "with"};
+    QStringList words = text.trimmed().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (int i = 0; i < words.size(); ++i)
+        if (i == 0 || !kSmallWords.contains(words[i]))
+            words[i][0] = words[i][0].toUpper();
+    return words.join(QLatin1Char(' '));
+}
+} // namespace
+
+ZOLEditPlace ZOLDocument::placeOfEdit() const {
+    ZOLEditPlace place;
+    const int32_t index = selectedWorksheetIndex();
+    const auto& sheets = workbook()->worksheets();
+    if (index >= 0 && static_cast<size_t>(index) < sheets.size())
+        place.worksheet = sheets[static_cast<size_t>(index)];
+    place.tab = ui_->tabView->currentIndex();
+    QWidget* control = focusWidget();
+    // A table's cell editor stands for its table.
+    for (QWidget* up = control; up && up != this; up = up->parentWidget())
+        if (qobject_cast<QAbstractItemView*>(up))
+            control = up;
+    if (control && control != this) {
+        place.control = control->objectName();
+        place.label = labelOf(control, this);
+        place.typing = qobject_cast<QLineEdit*>(control) != nullptr;
+    }
+    if (place.label.isEmpty())
+        place.label = ui_->tabView->tabText(place.tab);
+    return place;
+}
+
+void ZOLDocument::showChange(const ZOLEditPlace& place) {
+    const auto& sheets = workbook()->worksheets();
+    int32_t index = -1;
+    for (size_t i = 0; i < sheets.size(); ++i)
+        if (sheets[i] == place.worksheet)
+            index = static_cast<int32_t>(i);
+    if (place.worksheet && index < 0) {
+        // The worksheet is gone again: as after Delete, only the list changes.
+        reloadWorksheetSelector();
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setPlaceholderText(qs(place.worksheet->name()));
+        ui_->worksheetSelection->setCurrentIndex(-1);
+        return;
+    }
+    if (index < 0)
+        index = std::max(selectedWorksheetIndex(), 0);
+    showHeader();
+    reloadWorksheetSelector();
+    if (static_cast<size_t>(index) < sheets.size()) {
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setCurrentIndex(index);
+        const auto& sheet = sheets[static_cast<size_t>(index)];
+        for (const Screen& screen : screens_)
+            screen.hand(sheet, sheet->name());
+    }
+    updateSavedPricesBar();
+    // Only the tab shown reloads, as when the user selects it; the others do when selected.
+    if (place.tab >= 0 && place.tab < ui_->tabView->count())
+        ui_->tabView->setCurrentIndex(place.tab);
+    tabViewDidSelect(ui_->tabView->currentIndex());
+    if (place.control.isEmpty())
+        return;
+    // Several screens have a control of the same name: the one on the tab shown first.
+    QWidget* control = ui_->tabView->currentWidget()->findChild<QWidget*>(place.control);
+    if (!control)
+        control = findChild<QWidget*>(place.control);
+    if (control && control->isEnabled()) {
+        control->setFocus(Qt::OtherFocusReason);
+        if (auto* field = qobject_cast<QLineEdit*>(control))
+            field->selectAll();
+    }
+}
+
+void ZOLDocument::watchPricing(QWidget* window) {
+    // Each command of the window is one change; a price typed into the list is another.
+    const std::pair<const char*, QString> commands[] = {{"openPricing", tr("Load Price File")},
+                                                        {"useSavedPrices", tr("Use Saved Prices")}};
+    for (const auto& [name, change] : commands)
+        if (auto* button = window->findChild<QAbstractButton*>(QString::fromLatin1(name)))
+            connect(button, &QAbstractButton::clicked, this,
+                    [this, change] { job_->noteEdit(change); });
+    // A cell typed into is recorded once the list has taken it; refilling the list after a
+    // file was loaded changes nothing more by then, and the load keeps its own name.
+    if (auto* list = window->findChild<QAbstractItemView*>(); list && list->model())
+        connect(list->model(), &QAbstractItemModel::dataChanged, this, [this] {
+            QTimer::singleShot(0, this, [this] { job_->noteEdit(tr("Price Change")); });
+        });
+}
+
+bool ZOLDocument::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != this)
+        return QMainWindow::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    QAction* action = key->matches(QKeySequence::Undo) ? undoAction_
+                      : key->matches(QKeySequence::Redo) ||
+                              key->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y)
+                          ? redoAction_
+                          : nullptr;
+    if (!action)
+        return QMainWindow::eventFilter(watched, event);
+    // A text field would take the keys for its own undo; the job's history answers instead.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    if (action->isEnabled())
+        action->trigger();
+    return true;
 }

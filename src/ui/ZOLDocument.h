@@ -70,6 +70,9 @@ public:
     void noteEdit() { job_->noteEdit(); }
     void useSavedPrices() { job_->useSavedPrices(); }
 
+    // Where the user is making a change: the worksheet, the tab and the control with the focus.
+    ZOLEditPlace placeOfEdit() const;
+
     // Asks Save / Don't Save / Cancel when there are unsaved changes; true when the window
     // may close.
     bool canClose();
@@ -99,6 +102,9 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Ctrl+Z and its kin reach the job's history from every control of the window, text fields
+    // included: a user never meets two undo histories.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Screen {
@@ -120,11 +126,16 @@ private:
     void comboBoxSelectionDidChange(int index);
     void reloadWorksheetSelector();
     void showWorkbook();
+    void showHeader();
     void fileDidChange(const QString& path);
     void editedDidChange(bool edited);
     void updateTitle();
     void updateSavedPricesBar();
     void reloadScreens();
+    // Shows the job again after undo or redo, at the place of the change.
+    void showChange(const ZOLEditPlace& place);
+    // Records each change made in the price list window as it is made.
+    void watchPricing(QWidget* window);
     int32_t selectedWorksheetIndex() const;
     // Shows the print settings; the report they ask for, or nothing when the user cancelled.
     std::optional<std::string> reportFromPrintSettings(const QString& acceptTitle);
@@ -145,4 +156,6 @@ private:
 
     QMenu* recentMenu_ = nullptr;
     QAction* revertAction_ = nullptr;
+    QAction* undoAction_ = nullptr;
+    QAction* redoAction_ = nullptr;
 };

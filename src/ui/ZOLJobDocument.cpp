@@ -8,12 +8,21 @@
 #include "model/ZOLWorkbook.h"
 #include "platform/ZOLAlerts.h"
 #include "ui/ZOLJobSnapshot.h"
+#include "ui/ZOLJobSummaryCommand.h"
+#include "ui/ZOLNotesCommand.h"
+#include "ui/ZOLOpeningsCommand.h"
+#include "ui/ZOLPricesCommand.h"
+#include "ui/ZOLProjectHeaderCommand.h"
+#include "ui/ZOLRecordEditCommand.h"
 #include "ui/ZOLRecoveryStore.h"
 #include "ui/ZOLSettingsPreferences.h"
+#include "ui/ZOLWastePercentageCommand.h"
+#include "ui/ZOLWorksheetCommand.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTimer>
+#include <QUndoStack>
 
 namespace {
 QString qs(const std::string& text) {
@@ -34,19 +43,25 @@ std::string nativePath(const QString& path) {
 } // namespace
 
 ZOLJobDocument::ZOLJobDocument(QObject* parent)
-    : QObject(parent), workbook_(std::make_shared<ZOLWorkbook>()),
-      autosaveTimer_(new QTimer(this)) {
+    : QObject(parent), workbook_(std::make_shared<ZOLWorkbook>()), autosaveTimer_(new QTimer(this)),
+      undoStack_(new QUndoStack(this)) {
     autosaveTimer_->setSingleShot(true);
     connect(autosaveTimer_, &QTimer::timeout, this, &ZOLJobDocument::autosave);
+    startUnedited();
+}
+
+void ZOLJobDocument::startUnedited() {
     snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
     cleanState_ = jobState();
     lastAutosaved_ = cleanState_;
+    resetHistory();
 }
 
 ZOLJobDocument::~ZOLJobDocument() = default;
 
 void ZOLJobDocument::setWorkbook(std::shared_ptr<ZOLWorkbook> workbook) {
     workbook_ = workbook ? std::move(workbook) : std::make_shared<ZOLWorkbook>();
+    resetHistory();
 }
 
 // ---------------------------------------------------------------------------------------------
@@ -84,6 +99,8 @@ QStringList ZOLJobDocument::adopt(std::shared_ptr<ZOLWorkbook> workbook,
         snapshot.isEmpty() ? QStringList() : ZOLJobSnapshot::apply(snapshot, *workbook);
     workbook_ = std::move(workbook);
     emit workbookReplaced();
+    // After the window has shown it: showing brings the job summary's generated lines up to date.
+    resetHistory();
     return restored;
 }
 
@@ -159,6 +176,9 @@ bool ZOLJobDocument::saveToFile(const QString& path) {
     autosavedSinceSave_ = false;
     autosaveTimer_->stop();
     recovery_.reset();
+    // The generated lines just brought up to date are part of no change the user made.
+    commitValues();
+    undoStack_->setClean();
     setFilePath(canonical);
     setEdited(false);
     return true;
@@ -199,6 +219,7 @@ void ZOLJobDocument::discardChanges() {
 void ZOLJobDocument::close() {
     autosaveTimer_->stop();
     recovery_.reset();
+    undoStack_->clear();
 }
 
 void ZOLJobDocument::setFilePath(const QString& path) {
@@ -222,8 +243,22 @@ void ZOLJobDocument::setEdited(bool edited) {
     emit editedChanged(edited_);
 }
 
-void ZOLJobDocument::noteEdit() {
+void ZOLJobDocument::noteEdit(const QString& change) {
     const QByteArray now = jobState();
+    if (now != committedState_ && !applying_) {
+        ZOLJobValues is = ZOLJobValues::capture(*workbook_);
+        ZOLJobValues before;
+        ZOLJobValues after;
+        ZOLJobValues::difference(committed_, is, before, after);
+        committed_ = std::move(is);
+        committedState_ = now;
+        if (!after.isEmpty() || !before.isEmpty())
+            undoStack_->push(commandFor(std::move(before), std::move(after), change));
+    }
+    followSavedState(now);
+}
+
+void ZOLJobDocument::followSavedState(const QByteArray& now) {
     setEdited(now != cleanState_);
     if (!edited_) {
         // Back where the user saved: nothing of these edits should outlive the session.
@@ -297,7 +332,90 @@ bool ZOLJobDocument::useSavedPrices() {
     if (!pricing || !pricing->useSavedItems())
         return false;
     emit pricesReplaced();
-    noteEdit();
+    noteEdit(tr("Use Saved Prices"));
     emit statusMessage(tr("The job is priced with the prices saved in the workbook."));
     return true;
+}
+
+// ---------------------------------------------------------------------------------------------
+// Undo history
+
+void ZOLJobDocument::commitValues() {
+    committed_ = ZOLJobValues::capture(*workbook_);
+    committedState_ = jobState();
+}
+
+void ZOLJobDocument::resetHistory() {
+    undoStack_->clear();
+    commitValues();
+}
+
+namespace {
+// Whether the worksheets' records differ in their waste percentages alone.
+bool onlyWasteDiffers(const ZOLJobValues& before, const ZOLJobValues& after) {
+    for (size_t i = 0; i < before.sheets.size(); ++i) {
+        ZOLJobValues::Sheet was = before.sheets[i].second;
+        const ZOLJobValues::Sheet& is = after.sheets[i].second;
+        if (was.wall.wastePercentage() == is.wall.wastePercentage())
+            return false;
+        was.wall.setWastePercentage(is.wall.wastePercentage());
+        if (!(was == is))
+            return false;
+    }
+    return true;
+}
+
+bool openingsDiffer(const ZOLJobValues& before, const ZOLJobValues& after) {
+    for (size_t i = 0; i < before.sheets.size(); ++i)
+        if (before.sheets[i].second.openings != after.sheets[i].second.openings)
+            return true;
+    return false;
+}
+} // namespace
+
+QUndoCommand* ZOLJobDocument::commandFor(ZOLJobValues before, ZOLJobValues after,
+                                         const QString& change) {
+    ZOLEditPlace place = placeOfEdit_ ? placeOfEdit_() : ZOLEditPlace();
+    const QString text = change.isEmpty() ? place.label : change;
+    if (!change.isEmpty())
+        place.typing = false; // a named command is one step of its own
+    // The kind is the first part the change touched, in the order the user meets them.
+    if (after.sheetList) {
+        // The worksheet added, renamed or deleted, at its place in the list.
+        const auto& was = *before.sheetList;
+        const auto& is = *after.sheetList;
+        size_t at = 0;
+        while (at < was.size() && at < is.size() && was[at] == is[at])
+            ++at;
+        place.worksheet = at < was.size() && was.size() >= is.size() ? was[at].first
+                          : at < is.size()                           ? is[at].first
+                                                                     : nullptr;
+        return new ZOLWorksheetCommand(this, std::move(before), std::move(after), place, text);
+    }
+    if (!after.sheets.empty()) {
+        if (openingsDiffer(before, after))
+            return new ZOLOpeningsCommand(this, std::move(before), std::move(after), place, text);
+        if (onlyWasteDiffers(before, after))
+            return new ZOLWastePercentageCommand(this, std::move(before), std::move(after), place,
+                                                 tr("Waste Percentage"));
+        return new ZOLRecordEditCommand(this, std::move(before), std::move(after), place, text);
+    }
+    if (after.header)
+        return new ZOLProjectHeaderCommand(this, std::move(before), std::move(after), place, text);
+    if (after.notes)
+        return new ZOLNotesCommand(this, std::move(before), std::move(after), place,
+                                   tr("Project Notes"));
+    if (after.prices)
+        return new ZOLPricesCommand(this, std::move(before), std::move(after), place,
+                                    change.isEmpty() ? tr("Price Change") : change);
+    return new ZOLJobSummaryCommand(this, std::move(before), std::move(after), place, text);
+}
+
+void ZOLJobDocument::applyChange(const ZOLJobValues& values, const ZOLEditPlace& place) {
+    applying_ = true;
+    values.applyTo(*workbook_);
+    emit changeApplied(place);
+    commitValues();
+    applying_ = false;
+    followSavedState(committedState_);
 }

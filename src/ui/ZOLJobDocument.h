@@ -1,4 +1,6 @@
 #pragma once
+#include "ui/ZOLEditPlace.h"
+#include "ui/ZOLJobValues.h"
 #include "ui/ZOLSnapshotStore.h"
 
 #include <QByteArray>
@@ -10,6 +12,8 @@
 #include <memory>
 
 class QTimer;
+class QUndoCommand;
+class QUndoStack;
 class ZOLRecoverySlot;
 class ZOLWorkbook;
 
@@ -25,6 +29,10 @@ class ZOLWorkbook;
 // what the workbook file does not bring back (notes, version, distributor, waste percentages,
 // summary switches, the user's own job-summary lines, the price list as it was, the concrete
 // wall heights). Reopening that same file, unchanged, gives the job back as the user left it.
+//
+// Every change is also kept in an undo history. The screens write straight into the records and
+// only say that something changed; the document compares the records with their values as last
+// recorded and keeps what changed, before and after, as one command named after the change.
 class ZOLJobDocument : public QObject {
     Q_OBJECT
 
@@ -89,8 +97,20 @@ public:
 
     // Writes the autosave now (the timer calls it).
     void autosave();
-    // Call after anything that may have changed the workbook; cheap when nothing did.
-    void noteEdit();
+    // Call after anything that may have changed the workbook; cheap when nothing did. A change
+    // goes into the undo history under `change`, or else under the name of where it was made.
+    void noteEdit(const QString& change = QString());
+
+    // The undo history; its clean state is the state last saved.
+    QUndoStack* undoStack() const { return undoStack_; }
+    // Tells where the user is making changes (the window knows its worksheet, tab and control).
+    void setPlaceOfEdit(std::function<ZOLEditPlace()> place) { placeOfEdit_ = std::move(place); }
+    // Starts a new history from the records as they stand (a job opened, reverted, recovered).
+    void resetHistory();
+    // A new job as it now stands (a window has shown it) is where the user starts from.
+    void startUnedited();
+    // Undo and redo: puts record values back and shows where the change was made.
+    void applyChange(const ZOLJobValues& values, const ZOLEditPlace& place);
 
 signals:
     // The document holds another workbook (opened, reverted, recovered).
@@ -99,6 +119,8 @@ signals:
     void pricesReplaced();
     void editedChanged(bool edited);
     void fileChanged(const QString& path);
+    // Undo or redo changed the records: the window shows them again at `place`.
+    void changeApplied(const ZOLEditPlace& place);
     // A passing word for the user (what a reopened job got back, a failed autosave).
     void statusMessage(const QString& message);
 
@@ -114,6 +136,11 @@ private:
     // what the snapshot gave back.
     QStringList adopt(std::shared_ptr<ZOLWorkbook> workbook, const QByteArray& snapshot);
     void restoreLastSaved();
+    // The edited mark and autosave follow the job as it now stands (`now` is its job state).
+    void followSavedState(const QByteArray& now);
+    // The record values now become the ones the next change is compared with.
+    void commitValues();
+    QUndoCommand* commandFor(ZOLJobValues before, ZOLJobValues after, const QString& change);
 
     std::shared_ptr<ZOLWorkbook> workbook_;
     QString filePath_;
@@ -135,4 +162,12 @@ private:
     QTimer* autosaveTimer_;
     std::function<std::unique_ptr<ZOLRecoverySlot>()> makeRecoverySlot_;
     std::unique_ptr<ZOLRecoverySlot> recovery_;
+
+    QUndoStack* undoStack_;
+    std::function<ZOLEditPlace()> placeOfEdit_;
+    // The record values, and the job state, as of the last change recorded or applied.
+    ZOLJobValues committed_;
+    QByteArray committedState_;
+    // Undo or redo is putting values back: that is no new change.
+    bool applying_ = false;
 };
