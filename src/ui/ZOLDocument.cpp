@@ -754,6 +754,9 @@ ZOLEditPlace ZOLDocument::placeOfEdit() const {
         place.worksheet = sheets[static_cast<size_t>(index)];
     place.tab = ui_->tabView->currentIndex();
     QWidget* control = focusWidget();
+    // The text field inside a stepper or an editable box stands for its owner.
+    if (control && control->objectName().startsWith(QLatin1String("qt_")))
+        control = control->parentWidget();
     // A table's cell editor stands for its table.
     for (QWidget* up = control; up && up != this; up = up->parentWidget())
         if (qobject_cast<QAbstractItemView*>(up))

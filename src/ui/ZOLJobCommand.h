@@ -19,8 +19,6 @@ public:
     // Typing on in the same field continues the change before it.
     bool mergeWith(const QUndoCommand* other) override;
 
-    const ZOLEditPlace& place() const { return place_; }
-
 private:
     ZOLJobDocument* document_;
     ZOLJobValues before_;
