@@ -8,6 +8,8 @@
 // the volumes (0 cubic yards, 1 cubic metres). Weights are always pounds.
 class ZOLConcrete {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLConcrete&) const = default;
     ZOLConcrete();
     void clear();
 

@@ -8,6 +8,8 @@
 // user lines are typed in on the job summary screen. A line's total is quantity x cost.
 class ZOLCustomItem {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLCustomItem&) const = default;
     ZOLCustomItem();
     void clear();
 

@@ -8,6 +8,8 @@
 // computed afresh on each call.
 class ZOLManHours {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLManHours&) const = default;
     ZOLManHours();
     void clear();
 

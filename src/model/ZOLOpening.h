@@ -6,6 +6,8 @@
 // One row of a worksheet's openings: a rough opening size in inches and how many there are.
 class ZOLOpening {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLOpening&) const = default;
     ZOLOpening() = default;
 
     int32_t rowNumber() const { return rowNumber_; }

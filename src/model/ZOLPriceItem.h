@@ -8,6 +8,8 @@
 // pelmo) carry size 12.
 class ZOLPriceItem {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLPriceItem&) const = default;
     // Size 0, type 0, price 0.0: the file readers start from this and fill it in.
     ZOLPriceItem() = default;
     ZOLPriceItem(int32_t type, double withPrice);

@@ -7,6 +7,8 @@
 // dowels, each with a bar size. Holds inputs only; the four lengths are computed on every call.
 class ZOLRebar {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLRebar&) const = default;
     ZOLRebar();
     void clear();
 

@@ -7,6 +7,8 @@
 // counts, bundles and weights are computed from its area on every call.
 class ZOLTilt {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLTilt&) const = default;
     ZOLTilt();
     void clear();
 

@@ -10,6 +10,8 @@
 // corners, special courses, openings) and, computed afresh on every query, the parts to order.
 class ZOLWall {
 public:
+    // Values alike, field by field (undo tells what a change touched).
+    bool operator==(const ZOLWall&) const = default;
     ZOLWall();
     void clear();
 

@@ -1,7 +1,5 @@
 #include "ui/ZOLDocument.h"
 
-#include "io/ZOLFileSaver.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
@@ -12,10 +10,8 @@
 #include "ui/ZOLConcreteEntryViewController.h"
 #include "ui/ZOLDocumentController.h"
 #include "ui/ZOLFieldAlerts.h"
-#include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLHelpMenu.h"
-#include "ui/ZOLJobSnapshot.h"
 #include "ui/ZOLJobSummaryViewController.h"
 #include "ui/ZOLManHoursEntryViewController.h"
 #include "ui/ZOLOpeningsEntryViewController.h"
@@ -36,6 +32,7 @@
 #include "ui/ZOLWorkbookSummaryViewController.h"
 #include "ui_ZOLDocument.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
@@ -43,7 +40,9 @@
 #include <QDesktopServices>
 #include <QFile>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QKeySequence>
+#include <QLabel>
 #include <QMenuBar>
 #include <QPageSize>
 #include <QPrintDialog>
@@ -52,6 +51,7 @@
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
+#include <QUndoStack>
 #include <QUrl>
 
 namespace {
@@ -67,10 +67,6 @@ std::string utf8(const QString& text) {
     return text.toUtf8().toStdString();
 }
 
-std::string nativePath(const QString& path) {
-    return QFile::encodeName(path).toStdString();
-}
-
 const char* kDuplicateWorksheet =
     "A worksheet with that name already exists. Please try again with a different worksheet "
     "name.";
@@ -78,12 +74,14 @@ const char* kDuplicateWorksheet =
 
 ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     : QMainWindow(parent), ui_(std::make_unique<Ui::ZOLDocument>()), controller_(controller),
-      autosaveTimer_(new QTimer(this)) {
+      job_(new ZOLJobDocument(this)) {
     ui_->setupUi(this);
     fitToScreen();
     setAttribute(Qt::WA_DeleteOnClose, controller_ != nullptr);
-    if (controller_)
-        untitledNumber_ = controller_->nextUntitledNumber();
+    if (controller_) {
+        job_->setUntitledNumber(controller_->nextUntitledNumber());
+        job_->setRecoverySlotMaker([this] { return controller_->recoveryStore().createSlot(); });
+    }
 
     // The header sits on a black band; the screens below keep the ordinary colours. The
     // ordinary palette is set role by role so that the band's colours do not pass through.
@@ -102,14 +100,26 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
           static_cast<QWidget*>(ui_->notes)})
         widget->setPalette(ordinary);
 
-    autosaveTimer_->setSingleShot(true);
-    connect(autosaveTimer_, &QTimer::timeout, this, &ZOLDocument::autosave);
+    connect(job_, &ZOLJobDocument::workbookReplaced, this, [this] {
+        showWorkbook();
+        updateSavedPricesBar();
+    });
+    connect(job_, &ZOLJobDocument::pricesReplaced, this, [this] {
+        updateSavedPricesBar();
+        reloadScreens();
+    });
+    connect(job_, &ZOLJobDocument::changeApplied, this, &ZOLDocument::showChange);
+    job_->setPlaceOfEdit([this] { return placeOfEdit(); });
+    connect(job_, &ZOLJobDocument::editedChanged, this, &ZOLDocument::editedDidChange);
+    connect(job_, &ZOLJobDocument::fileChanged, this, &ZOLDocument::fileDidChange);
+    connect(job_, &ZOLJobDocument::statusMessage, statusBar(),
+            [this](const QString& message) { statusBar()->showMessage(message); });
 
     savedPricesBar_ = new ZOLSavedPricesBar(ui_->mainView);
     savedPricesBar_->hide();
     ui_->mainLayout->insertWidget(ui_->mainLayout->indexOf(ui_->tabView), savedPricesBar_);
-    connect(savedPricesBar_, &ZOLSavedPricesBar::useSavedPrices, this,
-            &ZOLDocument::useSavedPrices);
+    connect(savedPricesBar_, &ZOLSavedPricesBar::useSavedPrices, job_,
+            &ZOLJobDocument::useSavedPrices);
 
     installScreens();
     buildMenus();
@@ -122,11 +132,10 @@ ZOLDocument::ZOLDocument(ZOLDocumentController* controller, QWidget* parent)
     connect(ui_->deleteWorksheet, &QPushButton::clicked, this, &ZOLDocument::deleteWorksheet);
     connect(ui_->notes, &QPushButton::clicked, this, &ZOLDocument::editNotes);
 
-    loadWorkbook(nullptr);
-    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
+    showWorkbook();
+    job_->startUnedited();
     updateTitle();
+    qApp->installEventFilter(this);
 }
 
 ZOLDocument::~ZOLDocument() = default;
@@ -208,7 +217,7 @@ void ZOLDocument::installScreens() {
     workbookSummary_ = addScreen<ZOLWorkbookSummaryViewController>(
         tr("Workbook Summary"), "workbookSummaryScrollView", "workbookSummaryTab",
         [this](ZOLWorkbookSummaryViewController* screen, const Sheet&, const std::string&) {
-            screen->setWorkbook(workbook_);
+            screen->setWorkbook(workbook());
         });
     auto* concreteEntry = addScreen<ZOLConcreteEntryViewController>(
         tr("Concrete"), "concreteEntryScrollView", "concreteEntryTab",
@@ -250,7 +259,7 @@ void ZOLDocument::installScreens() {
     auto* jobSummary = addScreen<ZOLJobSummaryViewController>(
         tr("Job Summary"), "jobSummaryScrollView", "jobSummaryTab",
         [this](ZOLJobSummaryViewController* screen, const Sheet&, const std::string&) {
-            screen->setWorkbook(workbook_);
+            screen->setWorkbook(workbook());
         });
     connect(jobSummary, &ZOLJobSummaryViewController::edited, this, &ZOLDocument::noteEdit);
 }
@@ -284,20 +293,25 @@ void ZOLDocument::tabViewDidSelect(int index) {
 // Workbook and worksheets
 
 void ZOLDocument::loadWorkbook(std::shared_ptr<ZOLWorkbook> workbook) {
-    if (!workbook)
-        workbook = std::make_shared<ZOLWorkbook>();
-    workbook_ = std::move(workbook);
+    job_->setWorkbook(std::move(workbook));
+    showWorkbook();
+    job_->resetHistory();
+}
 
+void ZOLDocument::showHeader() {
     loading_ = true;
-    const auto date = workbook_->projectDate();
+    const auto date = workbook()->projectDate();
     ui_->projectDate->setDateTime(
         QDateTime::fromSecsSinceEpoch(date ? *date : QDateTime::currentSecsSinceEpoch()));
-    ui_->projectName->setText(qs(workbook_->projectName()));
-    ui_->clientName->setText(qs(workbook_->clientName()));
-    ui_->projectVersion->setText(qs(workbook_->projectVersion()));
-    ui_->distributorName->setText(qs(workbook_->distributorName()));
+    ui_->projectName->setText(qs(workbook()->projectName()));
+    ui_->clientName->setText(qs(workbook()->clientName()));
+    ui_->projectVersion->setText(qs(workbook()->projectVersion()));
+    ui_->distributorName->setText(qs(workbook()->distributorName()));
     loading_ = false;
+}
 
+void ZOLDocument::showWorkbook() {
+    showHeader();
     reloadWorksheetSelector();
     loadWorksheetDataWithIndex(0);
 }
@@ -307,13 +321,13 @@ void ZOLDocument::reloadWorksheetSelector() {
     const QSignalBlocker blocker(box);
     const int selected = box->currentIndex();
     box->clear();
-    for (const auto& sheet : workbook_->worksheets())
+    for (const auto& sheet : workbook()->worksheets())
         box->addItem(qs(sheet->name()));
     box->setCurrentIndex(selected < box->count() ? selected : -1);
 }
 
 void ZOLDocument::loadWorksheetDataWithIndex(int32_t index) {
-    const auto& sheets = workbook_->worksheets();
+    const auto& sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
@@ -347,23 +361,23 @@ void ZOLDocument::addWorksheet() {
                             ZOLFieldAlertPresenter::Field::Line);
     if (answer != 0)
         return;
-    if (workbook_->worksheetExistsWithName(name)) {
+    if (workbook()->worksheetExistsWithName(name)) {
         ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
         return;
     }
-    workbook_->addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
+    workbook()->addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
     reloadWorksheetSelector();
     {
         const QSignalBlocker blocker(ui_->worksheetSelection);
         ui_->worksheetSelection->setCurrentIndex(ui_->worksheetSelection->count() - 1);
     }
     loadWorksheetDataWithIndex(selectedWorksheetIndex());
-    noteEdit();
+    job_->noteEdit(tr("Add Worksheet \"%1\"").arg(qs(name)));
 }
 
 void ZOLDocument::renameWorksheet() {
     const int32_t index = selectedWorksheetIndex();
-    const auto& sheets = workbook_->worksheets();
+    const auto& sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     const std::shared_ptr<ZOLWorksheet> sheet = sheets[static_cast<size_t>(index)];
@@ -374,14 +388,15 @@ void ZOLDocument::renameWorksheet() {
                             ZOLFieldAlertPresenter::Field::Line);
     if (answer != 0 || name == sheet->name())
         return;
-    if (workbook_->worksheetExistsWithName(name)) {
+    const QString oldName = qs(sheet->name());
+    if (workbook()->worksheetExistsWithName(name)) {
         ZOLAlerts::run(kDuplicateWorksheet, "", {"OK"});
         return;
     }
     sheet->setName(name);
     // Only the selector shows the new name; the screens keep theirs until the next reload.
     reloadWorksheetSelector();
-    noteEdit();
+    job_->noteEdit(tr("Rename Worksheet \"%1\"").arg(oldName));
 }
 
 void ZOLDocument::deleteWorksheet() {
@@ -389,11 +404,11 @@ void ZOLDocument::deleteWorksheet() {
         0)
         return;
     const int32_t index = selectedWorksheetIndex();
-    auto sheets = workbook_->worksheets();
+    auto sheets = workbook()->worksheets();
     if (index < 0 || static_cast<size_t>(index) >= sheets.size())
         return;
     sheets.erase(sheets.begin() + index);
-    workbook_->setWorksheets(std::move(sheets));
+    workbook()->setWorksheets(std::move(sheets));
     // The screens and the selector's text still show the deleted worksheet until another one
     // is chosen, but the selector offers only the worksheets that remain, each under its own
     // name; nothing is chosen in it, so Rename and Delete find no worksheet to act on.
@@ -405,11 +420,11 @@ void ZOLDocument::deleteWorksheet() {
         box->setPlaceholderText(shown);
         box->setCurrentIndex(-1);
     }
-    noteEdit();
+    job_->noteEdit(tr("Delete Worksheet \"%1\"").arg(shown));
 }
 
 void ZOLDocument::editNotes() {
-    std::string notes = workbook_->notes().value_or(std::string());
+    std::string notes = workbook()->notes().value_or(std::string());
     // The workbook file has no place for notes: say where they live.
     if (ZOLFieldAlerts::run({"Project Notes",
                              "Notes are kept on this computer with the job and print with the "
@@ -417,12 +432,13 @@ void ZOLDocument::editNotes() {
                              {"Done", "Cancel"}},
                             notes, ZOLFieldAlertPresenter::Field::Text) != 0)
         return;
-    workbook_->setNotes(notes);
+    workbook()->setNotes(notes);
     noteEdit();
 }
 
 void ZOLDocument::editPricing() {
-    ZOLPricingWindowController window(workbook_->pricingData(), this);
+    ZOLPricingWindowController window(workbook()->pricingData(), this);
+    watchPricing(&window);
     window.exec();
     if (workbookSummary_)
         workbookSummary_->loadValues();
@@ -441,29 +457,29 @@ void ZOLDocument::displayBulletins() {
 void ZOLDocument::connectHeader() {
     // Each keystroke goes straight into the workbook.
     connect(ui_->projectName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setProjectName(utf8(text));
+        workbook()->setProjectName(utf8(text));
         noteEdit();
     });
     connect(ui_->clientName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setClientName(utf8(text));
+        workbook()->setClientName(utf8(text));
         noteEdit();
     });
     connect(ui_->projectVersion, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setProjectVersion(utf8(text));
+        workbook()->setProjectVersion(utf8(text));
         noteEdit();
     });
     connect(ui_->distributorName, &QLineEdit::textEdited, this, [this](const QString& text) {
-        workbook_->setDistributorName(utf8(text));
+        workbook()->setDistributorName(utf8(text));
         noteEdit();
     });
     // A new day keeps the time of day the project was dated with.
     connect(ui_->projectDate, &QDateEdit::dateChanged, this, [this](const QDate& date) {
         if (loading_ || !date.isValid())
             return;
-        const auto old = workbook_->projectDate();
+        const auto old = workbook()->projectDate();
         const QTime time =
             QDateTime::fromSecsSinceEpoch(old ? *old : QDateTime::currentSecsSinceEpoch()).time();
-        workbook_->setProjectDate(QDateTime(date, time).toSecsSinceEpoch());
+        workbook()->setProjectDate(QDateTime(date, time).toSecsSinceEpoch());
         noteEdit();
     });
 }
@@ -471,129 +487,26 @@ void ZOLDocument::connectHeader() {
 // ---------------------------------------------------------------------------------------------
 // Files
 
-QByteArray ZOLDocument::dataOfType(const QString&) const {
-    const std::string xml = workbook_->getXMLString();
-    return QByteArray(xml.data(), static_cast<qsizetype>(xml.size()));
-}
-
-QByteArray ZOLDocument::jobState() const {
-    return dataOfType() + QByteArray(1, '\0') + ZOLJobSnapshot::capture(*workbook_);
-}
-
-std::shared_ptr<ZOLWorkbook> ZOLDocument::readWorkbook(const QByteArray& bytes, bool* wrongFormat) {
-    const auto result = ZOLWorkbookReader::readWorkbookData(
-        std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())));
-    if (wrongFormat)
-        *wrongFormat = result.status == ZOLReadStatus::Refused;
-    return result.ok() ? result.workbook : nullptr;
-}
-
-bool ZOLDocument::readFromData(const QByteArray& bytes, bool* wrongFormat) {
-    auto workbook = readWorkbook(bytes, wrongFormat);
-    if (!workbook)
-        return false;
-    showWithSnapshot(std::move(workbook), QByteArray());
-    return true;
-}
-
-QStringList ZOLDocument::showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
-                                          const QByteArray& snapshot) {
-    const QStringList restored =
-        snapshot.isEmpty() ? QStringList() : ZOLJobSnapshot::apply(snapshot, *workbook);
-    loadWorkbook(std::move(workbook));
-    updateSavedPricesBar();
-    return restored;
-}
-
-bool ZOLDocument::readFromFile(const QString& path) {
-    auto bytes = ZOLFileAlerts::readFile(path, ZOLFileKind::Workbook);
-    if (!bytes)
-        return false;
-    const QByteArray data(bytes->data(), static_cast<qsizetype>(bytes->size()));
-    bool wrongFormat = false;
-    auto workbook = readWorkbook(data, &wrongFormat);
-    if (!workbook) {
-        ZOLFileAlerts::accepted(path, ZOLFileKind::Workbook,
-                                wrongFormat ? ZOLReadStatus::Refused : ZOLReadStatus::ParseError);
-        return false;
-    }
-    // The same file, unchanged since this computer saved it: the job comes back whole.
-    const QStringList restored = showWithSnapshot(
-        std::move(workbook), snapshots_.load(path, data).value_or(QByteArray()));
-    if (!restored.isEmpty())
-        statusBar()->showMessage(tr("Restored from this computer: %1").arg(restored.join(", ")));
-    fileBytesAtSave_ = data;
-    snapshotAtSave_ = ZOLJobSnapshot::capture(*workbook_);
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    autosavedSinceSave_ = false;
-    recovery_.reset();
-    setFilePath(path);
-    setEdited(false);
-    return true;
-}
-
-bool ZOLDocument::writeFile(const QString& path, const QByteArray& bytes,
-                            const QByteArray& snapshot, bool reportFailure) {
-    std::string error;
-    if (ZOLFileSaver::save(nativePath(path),
-                           std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())),
-                           ZOLFileKind::Workbook, &error) == ZOLFileSaver::Outcome::Saved) {
-        snapshots_.save(path, bytes, snapshot);
-        return true;
-    }
-    const QString message =
-        tr("The document “%1” could not be saved.").arg(QFileInfo(path).fileName());
-    if (reportFailure)
-        ZOLAlerts::run(utf8(message), error, {"OK"});
-    else
-        statusBar()->showMessage(message + QLatin1Char(' ') + qs(error) + QLatin1Char(' ') +
-                                 tr("Autosave tries again after your next change."));
-    return false;
-}
-
-bool ZOLDocument::saveToFile(const QString& path) {
-    // The job summary's generated lines as the worksheets now price them, as reopening shows them.
-    workbook_->generateCustomItems();
-    const QByteArray bytes = dataOfType();
-    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
-    if (!writeFile(path, bytes, snapshot, true))
-        return false;
-    const QString canonical = QFileInfo(path).absoluteFilePath();
-    if (canonical != filePath_ && !filePath_.isEmpty() && autosavedSinceSave_)
-        restoreLastSaved(); // the old file goes back to what the user saved in it
-    fileBytesAtSave_ = bytes;
-    snapshotAtSave_ = snapshot;
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    autosavedSinceSave_ = false;
-    autosaveTimer_->stop();
-    recovery_.reset();
-    setFilePath(canonical);
-    setEdited(false);
-    return true;
+bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
+    return job_->restoreFromRecovery(std::move(slot));
 }
 
 bool ZOLDocument::save() {
-    if (filePath_.isEmpty())
+    if (filePath().isEmpty())
         return saveAs();
-    return saveToFile(filePath_);
+    return saveToFile(filePath());
 }
 
 bool ZOLDocument::saveAs() {
-    QString suggested = qs(workbook_->projectName()).trimmed();
-    if (suggested.isEmpty())
-        suggested = displayName();
-    suggested.replace('/', '-');
-    const QString path = ZOLFilePanels::saveFile(this, tr("Save Workbook"), "zol",
-                                                 QFileInfo(suggested).completeBaseName() + ".zol");
+    const QString path =
+        ZOLFilePanels::saveFile(this, tr("Save Workbook"), "zol", job_->suggestedFileName());
     if (path.isEmpty())
         return false;
     return saveToFile(path);
 }
 
 void ZOLDocument::revertDocumentToSaved() {
-    if (filePath_.isEmpty() || !edited_)
+    if (filePath().isEmpty() || !isDocumentEdited())
         return;
     const QString message =
         tr("Do you want to revert to the most recently saved version of the document “%1”?")
@@ -601,135 +514,42 @@ void ZOLDocument::revertDocumentToSaved() {
     if (ZOLAlerts::run(utf8(message), "Your current changes will be lost.", {"Revert", "Cancel"}) !=
         0)
         return;
-    auto workbook = readWorkbook(fileBytesAtSave_, nullptr);
-    if (!workbook)
-        return;
-    showWithSnapshot(std::move(workbook), snapshotAtSave_);
-    restoreLastSaved();
-    cleanState_ = jobState();
-    lastAutosaved_ = cleanState_;
-    setEdited(false);
+    job_->revertToSaved();
 }
 
-void ZOLDocument::restoreLastSaved() {
-    if (!autosavedSinceSave_ || filePath_.isEmpty())
-        return;
-    if (writeFile(filePath_, fileBytesAtSave_, snapshotAtSave_, false))
-        autosavedSinceSave_ = false;
-}
-
-void ZOLDocument::setFilePath(const QString& path) {
-    filePath_ = path;
+void ZOLDocument::fileDidChange(const QString& path) {
     if (controller_ && !path.isEmpty())
         controller_->recentFiles()->add(path);
     if (revertAction_)
-        revertAction_->setEnabled(!filePath_.isEmpty() && edited_);
+        revertAction_->setEnabled(!path.isEmpty() && isDocumentEdited());
     updateTitle();
     emit fileChanged(path);
 }
 
-QString ZOLDocument::displayName() const {
-    if (!filePath_.isEmpty())
-        return QFileInfo(filePath_).fileName();
-    return untitledNumber_ <= 1 ? tr("Untitled") : tr("Untitled %1").arg(untitledNumber_);
-}
-
 void ZOLDocument::updateTitle() {
     setWindowTitle(displayName() + QStringLiteral("[*]"));
-    setWindowFilePath(filePath_);
-    setWindowModified(edited_);
+    setWindowFilePath(filePath());
+    setWindowModified(isDocumentEdited());
 }
 
-void ZOLDocument::setEdited(bool edited) {
+void ZOLDocument::editedDidChange(bool edited) {
     if (revertAction_)
-        revertAction_->setEnabled(!filePath_.isEmpty() && edited);
-    if (edited == edited_)
-        return;
-    edited_ = edited;
-    setWindowModified(edited_);
-    emit editedChanged(edited_);
-}
-
-void ZOLDocument::noteEdit() {
-    const QByteArray now = jobState();
-    setEdited(now != cleanState_);
-    if (!edited_) {
-        // Back where the user saved: nothing of these edits should outlive the session.
-        autosaveTimer_->stop();
-        restoreLastSaved();
-        recovery_.reset();
-        lastAutosaved_ = now;
-        return;
-    }
-    if (now != lastAutosaved_)
-        startAutosaveTimer();
-}
-
-void ZOLDocument::startAutosaveTimer() {
-    // Not restarted by every keystroke, so steady typing is still saved within the delay.
-    if (!autosaveTimer_->isActive())
-        autosaveTimer_->start(ZOLSettingsKeys::autosaveDelaySeconds() * 1000);
-}
-
-void ZOLDocument::autosave() {
-    autosaveTimer_->stop();
-    if (!edited_)
-        return;
-    const QByteArray state = jobState();
-    if (state == lastAutosaved_)
-        return;
-    const QByteArray bytes = dataOfType();
-    const QByteArray snapshot = ZOLJobSnapshot::capture(*workbook_);
-    if (!filePath_.isEmpty()) {
-        // A failure is said in the status bar; the next edit starts the timer again.
-        if (writeFile(filePath_, bytes, snapshot, false)) {
-            autosavedSinceSave_ = true;
-            lastAutosaved_ = state;
-        }
-        return;
-    }
-    if (!recovery_) {
-        ZOLRecoveryStore fallback;
-        recovery_ = controller_ ? controller_->recoveryStore().createSlot() : fallback.createSlot();
-    }
-    if (recovery_->write(bytes, snapshot))
-        lastAutosaved_ = state;
-}
-
-bool ZOLDocument::restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot) {
-    if (!slot)
-        return false;
-    const QByteArray bytes = slot->read();
-    // The reader's own alerts still show: a damaged recovery file is reported as such.
-    auto workbook = readWorkbook(bytes, nullptr);
-    if (!workbook)
-        return false;
-    showWithSnapshot(std::move(workbook), slot->readSnapshot());
-    recovery_ = std::move(slot);
-    cleanState_.clear(); // nothing of it was ever saved
-    lastAutosaved_ = jobState();
-    setEdited(true);
-    return true;
+        revertAction_->setEnabled(!filePath().isEmpty() && edited);
+    setWindowModified(edited);
+    emit editedChanged(edited);
 }
 
 void ZOLDocument::updateSavedPricesBar() {
-    const auto& pricing = workbook_->pricingData();
-    savedPricesBar_->setVisible(pricing && pricing->savedItemsChangePrices());
+    savedPricesBar_->setVisible(job_->savedPricesDiffer());
 }
 
-void ZOLDocument::useSavedPrices() {
-    const auto& pricing = workbook_->pricingData();
-    if (!pricing || !pricing->useSavedItems())
-        return;
-    updateSavedPricesBar();
+void ZOLDocument::reloadScreens() {
     for (const Screen& screen : screens_)
         screen.loadValues();
-    noteEdit();
-    statusBar()->showMessage(tr("The job is priced with the prices saved in the workbook."));
 }
 
 bool ZOLDocument::canClose() {
-    if (!edited_)
+    if (!isDocumentEdited())
         return true;
     const QString message =
         tr("Do you want to save the changes you made in the document “%1”?").arg(displayName());
@@ -739,8 +559,7 @@ bool ZOLDocument::canClose() {
     if (answer == 0)
         return save();
     if (answer == 1) {
-        restoreLastSaved();
-        recovery_.reset();
+        job_->discardChanges();
         return true;
     }
     return false;
@@ -751,8 +570,7 @@ void ZOLDocument::closeEvent(QCloseEvent* event) {
         event->ignore();
         return;
     }
-    autosaveTimer_->stop();
-    recovery_.reset();
+    job_->close();
     event->accept();
 }
 
@@ -768,7 +586,7 @@ ZOLReportRenderer* ZOLDocument::renderer() {
 
 std::optional<std::string> ZOLDocument::reportFromPrintSettings(const QString& acceptTitle) {
     ZOLPrintSettingsWindowController window(this);
-    window.setNumberOfWorksheets(static_cast<int32_t>(workbook_->worksheets().size()));
+    window.setNumberOfWorksheets(static_cast<int32_t>(workbook()->worksheets().size()));
     window.setAcceptTitle(acceptTitle);
     window.exec();
     if (!window.acceptChanges())
@@ -776,8 +594,8 @@ std::optional<std::string> ZOLDocument::reportFromPrintSettings(const QString& a
     const auto settings = window.getZolPrintSettings();
     const auto all = settings.find("PrintAllWorksheets");
     if (all != settings.end() && all->second)
-        return ZOLPrintData::getHTMLWithWorkbook(workbook_, settings);
-    return ZOLPrintData::getHTMLWithWorkbook(workbook_, selectedWorksheetIndex(), settings);
+        return ZOLPrintData::getHTMLWithWorkbook(workbook(), settings);
+    return ZOLPrintData::getHTMLWithWorkbook(workbook(), selectedWorksheetIndex(), settings);
 }
 
 void ZOLDocument::printDocument() {
@@ -869,6 +687,16 @@ void ZOLDocument::buildMenus() {
         quit->setMenuRole(QAction::QuitRole);
     }
 
+    QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+    undoAction_ = job_->undoStack()->createUndoAction(this, tr("&Undo"));
+    undoAction_->setShortcut(QKeySequence::Undo);
+    redoAction_ = job_->undoStack()->createRedoAction(this, tr("&Redo"));
+    // Ctrl+Y as well, which estimators know from their spreadsheets.
+    redoAction_->setShortcuts(QList<QKeySequence>{QKeySequence::keyBindings(QKeySequence::Redo)}
+                              << QKeySequence(tr("Ctrl+Y")));
+    edit->addAction(undoAction_);
+    edit->addAction(redoAction_);
+
     QMenu* workbook = menuBar()->addMenu(tr("&Workbook"));
     workbook->addAction(tr("&Add Worksheet…"), this, &ZOLDocument::addWorksheet);
     workbook->addAction(tr("&Rename Worksheet…"), this, &ZOLDocument::renameWorksheet);
@@ -883,4 +711,145 @@ void ZOLDocument::buildMenus() {
     QMenu* help = menuBar()->addMenu(tr("&Help"));
     help->addAction(tr("&Technical Bulletins"), this, &ZOLDocument::displayBulletins);
     ZOLHelpMenu::addActions(help, this);
+}
+
+// ---------------------------------------------------------------------------------------------
+// Undo and redo
+
+namespace {
+// How the user knows a control: its label, or its own caption, without accelerator marks.
+QString labelOf(const QWidget* control, const QWidget* window) {
+    QString text;
+    for (QLabel* label : window->findChildren<QLabel*>())
+        if (label->buddy() == control) {
+            text = label->text();
+            break;
+        }
+    if (text.isEmpty())
+        if (const auto* button = qobject_cast<const QAbstractButton*>(control))
+            text = button->text();
+    if (text.isEmpty())
+        text = control->accessibleName();
+    text.remove(QLatin1Char('&'));
+    text = text.trimmed();
+    while (text.endsWith(QLatin1Char(':')) || text.endsWith(QChar(0x2026)) ||
+           text.endsWith(QLatin1Char('.')))
+        text.chop(1);
+    // Named as menu commands are: "Wall length" becomes "Undo Wall Length".
+    static const QStringList kSmallWords{"a",  "an", "and", "at",  "by",  "for", "in",
+                                         "of", "on", "or",  "per", "the", "to",  "with"};
+    QStringList words = text.trimmed().split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    for (int i = 0; i < words.size(); ++i)
+        if (i == 0 || !kSmallWords.contains(words[i]))
+            words[i][0] = words[i][0].toUpper();
+    return words.join(QLatin1Char(' '));
+}
+} // namespace
+
+ZOLEditPlace ZOLDocument::placeOfEdit() const {
+    ZOLEditPlace place;
+    const int32_t index = selectedWorksheetIndex();
+    const auto& sheets = workbook()->worksheets();
+    if (index >= 0 && static_cast<size_t>(index) < sheets.size())
+        place.worksheet = sheets[static_cast<size_t>(index)];
+    place.tab = ui_->tabView->currentIndex();
+    QWidget* control = focusWidget();
+    // The text field inside a stepper or an editable box stands for its owner.
+    if (control && control->objectName().startsWith(QLatin1String("qt_")))
+        control = control->parentWidget();
+    // A table's cell editor stands for its table.
+    for (QWidget* up = control; up && up != this; up = up->parentWidget())
+        if (qobject_cast<QAbstractItemView*>(up))
+            control = up;
+    if (control && control != this) {
+        place.control = control->objectName();
+        place.label = labelOf(control, this);
+        place.typing = qobject_cast<QLineEdit*>(control) != nullptr;
+    }
+    if (place.label.isEmpty())
+        place.label = ui_->tabView->tabText(place.tab);
+    return place;
+}
+
+void ZOLDocument::showChange(const ZOLEditPlace& place) {
+    const auto& sheets = workbook()->worksheets();
+    int32_t index = -1;
+    for (size_t i = 0; i < sheets.size(); ++i)
+        if (sheets[i] == place.worksheet)
+            index = static_cast<int32_t>(i);
+    if (place.worksheet && index < 0) {
+        // The worksheet is gone again: as after Delete, only the list changes.
+        reloadWorksheetSelector();
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setPlaceholderText(qs(place.worksheet->name()));
+        ui_->worksheetSelection->setCurrentIndex(-1);
+        return;
+    }
+    if (index < 0)
+        index = std::max(selectedWorksheetIndex(), 0);
+    showHeader();
+    reloadWorksheetSelector();
+    if (static_cast<size_t>(index) < sheets.size()) {
+        const QSignalBlocker blocker(ui_->worksheetSelection);
+        ui_->worksheetSelection->setCurrentIndex(index);
+        const auto& sheet = sheets[static_cast<size_t>(index)];
+        for (const Screen& screen : screens_)
+            screen.hand(sheet, sheet->name());
+    }
+    updateSavedPricesBar();
+    // Only the tab shown reloads, as when the user selects it; the others do when selected.
+    if (place.tab >= 0 && place.tab < ui_->tabView->count())
+        ui_->tabView->setCurrentIndex(place.tab);
+    tabViewDidSelect(ui_->tabView->currentIndex());
+    if (place.control.isEmpty())
+        return;
+    // Several screens have a control of the same name: the one on the tab shown first.
+    QWidget* control = ui_->tabView->currentWidget()->findChild<QWidget*>(place.control);
+    if (!control)
+        control = findChild<QWidget*>(place.control);
+    if (control && control->isEnabled()) {
+        control->setFocus(Qt::OtherFocusReason);
+        if (auto* field = qobject_cast<QLineEdit*>(control))
+            field->selectAll();
+    }
+}
+
+void ZOLDocument::watchPricing(QWidget* window) {
+    // Each command of the window is one change; a price typed into the list is another.
+    const std::pair<const char*, QString> commands[] = {{"openPricing", tr("Load Price File")},
+                                                        {"useSavedPrices", tr("Use Saved Prices")}};
+    for (const auto& [name, change] : commands)
+        if (auto* button = window->findChild<QAbstractButton*>(QString::fromLatin1(name)))
+            connect(button, &QAbstractButton::clicked, this,
+                    [this, change] { job_->noteEdit(change); });
+    // A cell typed into is recorded once the list has taken it; refilling the list after a
+    // file was loaded changes nothing more by then, and the load keeps its own name.
+    if (auto* list = window->findChild<QAbstractItemView*>(); list && list->model())
+        connect(list->model(), &QAbstractItemModel::dataChanged, this, [this] {
+            QTimer::singleShot(0, this, [this] { job_->noteEdit(tr("Price Change")); });
+        });
+}
+
+bool ZOLDocument::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QMainWindow::eventFilter(watched, event);
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (!widget || widget->window() != this)
+        return QMainWindow::eventFilter(watched, event);
+    auto* key = static_cast<QKeyEvent*>(event);
+    QAction* action = key->matches(QKeySequence::Undo) ? undoAction_
+                      : key->matches(QKeySequence::Redo) ||
+                              key->keyCombination() == QKeyCombination(Qt::CTRL, Qt::Key_Y)
+                          ? redoAction_
+                          : nullptr;
+    if (!action)
+        return QMainWindow::eventFilter(watched, event);
+    // A text field would take the keys for its own undo; the job's history answers instead.
+    if (event->type() == QEvent::ShortcutOverride) {
+        event->accept();
+        return true;
+    }
+    if (action->isEnabled())
+        action->trigger();
+    return true;
 }

@@ -1,5 +1,5 @@
 #pragma once
-#include "ui/ZOLSnapshotStore.h"
+#include "ui/ZOLJobDocument.h"
 
 #include <QByteArray>
 #include <QMainWindow>
@@ -19,7 +19,6 @@ class QComboBox;
 class QMenu;
 class QScrollArea;
 class QTabWidget;
-class QTimer;
 class ZOLDocumentController;
 class ZOLRecoverySlot;
 class ZOLSavedPricesBar;
@@ -30,19 +29,10 @@ namespace Ui {
 class ZOLDocument;
 }
 
-// One open estimate: the workbook, its file, and the window that shows it: the project header,
-// the worksheet selector with its commands, and a tab for each screen.
-//
-// The window shows whether the workbook differs from its file. A workbook with a file is
-// autosaved into that file a little after an edit, so a crash loses almost nothing; an
-// untitled one is autosaved to a recovery file that the next start offers back. Save, Don't
-// Save and Revert still mean what users expect: the file holds what the user last saved
-// unless the program stops without being asked.
-//
-// Every save and autosave also keeps a snapshot of the job on this computer (ZOLJobSnapshot):
-// what the workbook file does not bring back (notes, version, distributor, waste percentages,
-// summary switches, the user's own job-summary lines, the price list as it was, the concrete
-// wall heights). Reopening that same file, unchanged, gives the job back as the user left it.
+// The window of one open estimate (ZOLJobDocument): the project header, the worksheet selector
+// with its commands, a tab for each screen, the menus, printing and export. It shows whether
+// the workbook differs from its file; the job document behind it keeps the file, the autosave
+// and the snapshot of the job.
 class ZOLDocument : public QMainWindow {
     Q_OBJECT
 
@@ -54,47 +44,38 @@ public:
     void loadWorkbook(std::shared_ptr<ZOLWorkbook> workbook);
     // Hands the records of worksheet `index` to every screen and reloads them.
     void loadWorksheetDataWithIndex(int32_t index);
-    const std::shared_ptr<ZOLWorkbook>& workbook() const { return workbook_; }
+    ZOLJobDocument* jobDocument() const { return job_; }
 
-    // Reads a workbook file's bytes. A file that the reader refuses leaves the document as it
-    // was and returns false; the reader has shown its alert, and `wrongFormat` tells whether
-    // the bytes were turned away before parsing (the caller then reports it).
-    bool readFromData(const QByteArray& bytes, bool* wrongFormat = nullptr);
-    // The bytes saved for the workbook, whatever the type asked for.
-    QByteArray dataOfType(const QString& type = QStringLiteral("zol")) const;
-
-    // Opens `path` into this (fresh) document; false (after the alert) when it cannot be read.
-    bool readFromFile(const QString& path);
-    // Writes the workbook to `path` and makes it the document's file.
-    bool saveToFile(const QString& path);
-    // What decides whether the document is edited: the file's bytes and the snapshot of what
-    // the file does not keep.
-    QByteArray jobState() const;
-    // Replaces the price list with the prices the opened file was saved with.
-    void useSavedPrices();
-    // Where the snapshots of saved jobs are kept (tests point it at a folder of their own).
-    void setSnapshotDirectory(const QString& directory) {
-        snapshots_ = ZOLSnapshotStore(directory);
+    // The job document's own, for the window's callers and tests.
+    const std::shared_ptr<ZOLWorkbook>& workbook() const { return job_->workbook(); }
+    bool readFromData(const QByteArray& bytes, bool* wrongFormat = nullptr) {
+        return job_->readFromData(bytes, wrongFormat);
     }
-
-    QString filePath() const { return filePath_; }
-    // The job as last opened or saved, the older version File > Compare With… offers: the
-    // file's bytes (empty for a job never saved) and the snapshot kept with them.
-    QByteArray savedFileBytes() const { return fileBytesAtSave_; }
-    QByteArray savedSnapshot() const { return snapshotAtSave_; }
-    const ZOLSnapshotStore& snapshotStore() const { return snapshots_; }
-    QString displayName() const;
-    bool isDocumentEdited() const { return edited_; }
-    // Adopts a recovery file: the document shows its workbook as unsaved changes.
+    QByteArray dataOfType(const QString& type = QStringLiteral("zol")) const {
+        return job_->dataOfType(type);
+    }
+    bool readFromFile(const QString& path) { return job_->readFromFile(path); }
+    bool saveToFile(const QString& path) { return job_->saveToFile(path); }
+    QByteArray jobState() const { return job_->jobState(); }
+    void setSnapshotDirectory(const QString& directory) { job_->setSnapshotDirectory(directory); }
+    QString filePath() const { return job_->filePath(); }
+    QByteArray savedFileBytes() const { return job_->savedFileBytes(); }
+    QByteArray savedSnapshot() const { return job_->savedSnapshot(); }
+    const ZOLSnapshotStore& snapshotStore() const { return job_->snapshotStore(); }
+    QString displayName() const { return job_->displayName(); }
+    bool isDocumentEdited() const { return job_->isDocumentEdited(); }
     bool restoreFromRecovery(std::unique_ptr<ZOLRecoverySlot> slot);
+    void autosave() { job_->autosave(); }
+    // Call after anything that may have changed the workbook; cheap when nothing did.
+    void noteEdit() { job_->noteEdit(); }
+    void useSavedPrices() { job_->useSavedPrices(); }
+
+    // Where the user is making a change: the worksheet, the tab and the control with the focus.
+    ZOLEditPlace placeOfEdit() const;
 
     // Asks Save / Don't Save / Cancel when there are unsaved changes; true when the window
     // may close.
     bool canClose();
-    // Writes the autosave now (the timer calls it).
-    void autosave();
-    // Call after anything that may have changed the workbook; cheap when nothing did.
-    void noteEdit();
 
     QTabWidget* tabView() const;
     QComboBox* worksheetSelection() const;
@@ -121,6 +102,9 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    // Ctrl+Z and its kin reach the job's history from every control of the window, text fields
+    // included: a user never meets two undo histories.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Screen {
@@ -141,20 +125,17 @@ private:
     void tabViewDidSelect(int index);
     void comboBoxSelectionDidChange(int index);
     void reloadWorksheetSelector();
-    void setFilePath(const QString& path);
+    void showWorkbook();
+    void showHeader();
+    void fileDidChange(const QString& path);
+    void editedDidChange(bool edited);
     void updateTitle();
-    void setEdited(bool edited);
-    void startAutosaveTimer();
-    bool writeFile(const QString& path, const QByteArray& bytes, const QByteArray& snapshot,
-                   bool reportFailure);
-    // The workbook in a file's bytes, or nothing (after the reader's alert).
-    std::shared_ptr<ZOLWorkbook> readWorkbook(const QByteArray& bytes, bool* wrongFormat);
-    // Shows a workbook just read, with the snapshot of its job (if any) applied first; returns
-    // what the snapshot gave back.
-    QStringList showWithSnapshot(std::shared_ptr<ZOLWorkbook> workbook,
-                                 const QByteArray& snapshot);
     void updateSavedPricesBar();
-    void restoreLastSaved();
+    void reloadScreens();
+    // Shows the job again after undo or redo, at the place of the change.
+    void showChange(const ZOLEditPlace& place);
+    // Records each change made in the price list window as it is made.
+    void watchPricing(QWidget* window);
     int32_t selectedWorksheetIndex() const;
     // Shows the print settings; the report they ask for, or nothing when the user cancelled.
     std::optional<std::string> reportFromPrintSettings(const QString& acceptTitle);
@@ -162,29 +143,10 @@ private:
 
     std::unique_ptr<Ui::ZOLDocument> ui_;
     ZOLDocumentController* controller_;
-    std::shared_ptr<ZOLWorkbook> workbook_;
+    ZOLJobDocument* job_;
     std::vector<Screen> screens_;
     ZOLWorkbookSummaryViewController* workbookSummary_ = nullptr;
-
-    QString filePath_;
-    int untitledNumber_ = 1;
-    // The file's bytes as the user last opened or saved them: Don't Save and Revert put them
-    // back after autosave has written edits into the file.
-    QByteArray fileBytesAtSave_;
-    // The snapshot of the job as the user last opened or saved it.
-    QByteArray snapshotAtSave_;
-    // The job state (jobState) at that moment (an opened file saves a little differently from
-    // how it was written); the document is edited when the job state now differs.
-    QByteArray cleanState_;
-    // The job state autosave last wrote, so that an unchanged job is not written again.
-    QByteArray lastAutosaved_;
-    ZOLSnapshotStore snapshots_;
     ZOLSavedPricesBar* savedPricesBar_ = nullptr;
-    bool edited_ = false;
-    // Autosave has written edits into the file that the user has not saved.
-    bool autosavedSinceSave_ = false;
-    QTimer* autosaveTimer_;
-    std::unique_ptr<ZOLRecoverySlot> recovery_;
     bool loading_ = false;
 
     ZOLReportRenderer* renderer_ = nullptr;
@@ -194,4 +156,6 @@ private:
 
     QMenu* recentMenu_ = nullptr;
     QAction* revertAction_ = nullptr;
+    QAction* undoAction_ = nullptr;
+    QAction* redoAction_ = nullptr;
 };

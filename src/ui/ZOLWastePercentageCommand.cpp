@@ -1,0 +1,6 @@
+#include "ui/ZOLWastePercentageCommand.h"
+
+ZOLWastePercentageCommand::ZOLWastePercentageCommand(ZOLJobDocument* document, ZOLJobValues before,
+                                                     ZOLJobValues after, ZOLEditPlace place,
+                                                     const QString& text)
+    : ZOLJobCommand(document, std::move(before), std::move(after), std::move(place), text) {}
