@@ -165,11 +165,6 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    ZOLReportRenderer::prepareApplication();
-    QApplication app(argc, argv);
-    ZOLReportRendererTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZOL_RENDERER_TEST_MAIN(ZOLReportRendererTest)
 
 #include "ZOLReportRendererTest.moc"
