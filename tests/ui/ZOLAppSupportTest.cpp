@@ -86,7 +86,6 @@ private slots:
         QVERIFY(!preferences.boolForKey("PrintWall"));
         preferences.setBoolForKey("PrintWall", true);
         QVERIFY(ZOLSettingsPreferences().boolForKey("PrintWall"));
-        QCOMPARE(QSettings().value("PrintWall").toBool(), true);
 
         QVERIFY(ZOLSettingsKeys::technicalBulletinsURL().startsWith("https://"));
         QSettings().setValue(ZOLSettingsKeys::kTechnicalBulletins, "https://example.org/tb");

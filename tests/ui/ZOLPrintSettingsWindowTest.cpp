@@ -41,7 +41,6 @@ private slots:
         QCOMPARE(pageCount(window), QString("Page Count: 10"));
         click(window, "allWorksheets");
         QCOMPARE(pageCount(window), QString("Page Count: 24"));
-        QCOMPARE(window.getPageCount(), 24);
 
         // Only the summary pages: three, whatever the worksheets.
         click(window, "printWallCheckbox printOpeningsCheckbox printConcreteCheckbox "
@@ -67,12 +66,9 @@ private slots:
             QVERIFY(!window.findChild<QCheckBox*>("printWallCheckbox")->isChecked());
             click(window, "printWallCheckbox printProjectNotesCheckbox allWorksheets acceptButton");
             QVERIFY(window.acceptChanges());
-            const auto settings = window.getZolPrintSettings();
-            QCOMPARE(settings.size(), size_t(10));
-            QVERIFY(settings.at("PrintWall") && settings.at("PrintProjectNotes") &&
-                    settings.at("PrintAllWorksheets"));
-            QVERIFY(!settings.at("PrintConcrete"));
             QVERIFY(preferences->boolForKey("PrintWall"));
+            QVERIFY(preferences->boolForKey("PrintProjectNotes"));
+            QVERIFY(!preferences->boolForKey("PrintConcrete"));
             QVERIFY(preferences->boolForKey("PrintAllWorksheets"));
         }
         // The next print starts from the kept choices.

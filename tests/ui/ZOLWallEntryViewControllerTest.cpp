@@ -50,12 +50,6 @@ private slots:
         type(field("brickHeight"), "3");
         QCOMPARE(wall->pelmoBrickLength(), 2.5);
         QCOMPARE(wall->pelmoBrickHeight(), 3.0);
-
-        // An emptied field keeps the wall's value until something is typed.
-        type(field("sqftOpenings"), "40");
-        type(field("sqftOpenings"), "");
-        QCOMPARE(field("sqftOpenings")->text(), QString());
-        QCOMPARE(wall->sqftOpenings(), 40.0);
     }
 
     void endOfEditingRewritesTheFieldFromTheWall() {
@@ -154,9 +148,6 @@ private slots:
 
     void wallHeightShowsSixteenInchCourses() {
         QComboBox* height = box("wallHeight");
-        QCOMPARE(height->count(), 31);
-        QCOMPARE(height->itemText(0), QString("1' 4\""));
-        QCOMPARE(height->itemText(30), QString("41' 4\""));
         QCOMPARE(height->currentIndex(), 5);
         QCOMPARE(height->currentText(), QString("8' 0\""));
 
