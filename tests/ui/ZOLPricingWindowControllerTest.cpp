@@ -1,13 +1,13 @@
 // The price list window: prices edited in the table, and price files saved and opened with
 // their alerts.
+#include "ui/ZOLPricingWindowController.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "ui/ZOLPriceTableModel.h"
-#include "ui/ZOLPricingWindowController.h"
 
 #include "UiTestSupport.h"
 
-class ZOLPricingWindowTest : public QObject {
+class ZOLPricingWindowControllerTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -107,5 +107,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ZOLPricingWindowTest)
-#include "ZOLPricingWindowTest.moc"
+QTEST_MAIN(ZOLPricingWindowControllerTest)
+#include "ZOLPricingWindowControllerTest.moc"

@@ -1,6 +1,6 @@
 // The print settings window: the live page count and the choices kept only on accept.
-#include "platform/ZOLPreferences.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
+#include "platform/ZOLPreferences.h"
 
 #include "UiTestSupport.h"
 
@@ -19,7 +19,7 @@ void click(QWidget& window, const QString& names) {
 }
 } // namespace
 
-class ZOLPrintSettingsWindowTest : public QObject {
+class ZOLPrintSettingsWindowControllerTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -80,5 +80,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ZOLPrintSettingsWindowTest)
-#include "ZOLPrintSettingsWindowTest.moc"
+QTEST_MAIN(ZOLPrintSettingsWindowControllerTest)
+#include "ZOLPrintSettingsWindowControllerTest.moc"

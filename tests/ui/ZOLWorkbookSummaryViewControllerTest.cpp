@@ -1,5 +1,6 @@
 // The workbook summary tab: the job's blocks and accessories priced line by line. The lines are
 // worked out once for the tab and the printed page; the page and its sums are the report's to pin.
+#include "ui/ZOLWorkbookSummaryViewController.h"
 #include "UiTestSupport.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLPriceItem.h"
@@ -7,7 +8,6 @@
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
-#include "ui/ZOLWorkbookSummaryViewController.h"
 
 namespace {
 // Two 8-inch walls and a priced 6-inch one.
@@ -30,7 +30,7 @@ std::shared_ptr<ZOLWorkbook> job() {
 
 } // namespace
 
-class ZOLWorkbookSummaryTest : public QObject {
+class ZOLWorkbookSummaryViewControllerTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -64,5 +64,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ZOLWorkbookSummaryTest)
-#include "ZOLWorkbookSummaryTest.moc"
+QTEST_MAIN(ZOLWorkbookSummaryViewControllerTest)
+#include "ZOLWorkbookSummaryViewControllerTest.moc"
