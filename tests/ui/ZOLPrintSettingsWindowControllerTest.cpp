@@ -52,25 +52,21 @@ private slots:
 
     void choicesAreKeptOnlyWhenAccepted() {
         auto preferences = std::make_shared<ZOLMemoryPreferences>();
-        {
-            ZOLPrintSettingsWindowController window(nullptr, preferences);
-            window.show();
-            click(window, "printWallCheckbox allWorksheets cancelButton");
-            QVERIFY(!window.acceptChanges());
-            QVERIFY(!preferences->boolForKey("PrintWall"));
-            QVERIFY(!preferences->boolForKey("PrintAllWorksheets"));
-        }
-        {
+        // Cancel keeps nothing (the window after it starts as before); accept keeps the choices.
+        const std::tuple<const char*, bool> closings[] = {
+            {"printWallCheckbox allWorksheets cancelButton", false},
+            {"printWallCheckbox printProjectNotesCheckbox allWorksheets acceptButton", true}};
+        for (const auto& [clicks, accepted] : closings) {
             ZOLPrintSettingsWindowController window(nullptr, preferences);
             window.show();
             QVERIFY(!window.findChild<QCheckBox*>("printWallCheckbox")->isChecked());
-            click(window, "printWallCheckbox printProjectNotesCheckbox allWorksheets acceptButton");
-            QVERIFY(window.acceptChanges());
-            QVERIFY(preferences->boolForKey("PrintWall"));
-            QVERIFY(preferences->boolForKey("PrintProjectNotes"));
-            QVERIFY(!preferences->boolForKey("PrintConcrete"));
-            QVERIFY(preferences->boolForKey("PrintAllWorksheets"));
+            click(window, clicks);
+            QCOMPARE(window.acceptChanges(), accepted);
+            QCOMPARE(preferences->boolForKey("PrintWall"), accepted);
+            QCOMPARE(preferences->boolForKey("PrintAllWorksheets"), accepted);
         }
+        QVERIFY(preferences->boolForKey("PrintProjectNotes"));
+        QVERIFY(!preferences->boolForKey("PrintConcrete"));
         // The next print starts from the kept choices.
         ZOLPrintSettingsWindowController window(nullptr, preferences);
         window.setNumberOfWorksheets(2);
