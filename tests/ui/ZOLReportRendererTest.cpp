@@ -62,7 +62,8 @@ private slots:
         ZOLPrintData::Settings settings;
         for (const char* key : ZOLPrintSettings::keys())
             settings[key] = true;
-        // The report prints them as typed, and rendering runs none of it and reaches nothing.
+        // The report prints them as typed (the report tests check that); rendering runs none of
+        // it and reaches nothing.
         const std::string html = ZOLPrintData::getHTMLWithWorkbook(workbook, settings);
         ZOLReportRenderer renderer(resources());
         QString error;
