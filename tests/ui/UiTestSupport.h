@@ -4,6 +4,8 @@
 #include "support/AlertRecorder.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
+#include "ui/ZOLInfoPopup.h"
+#include "ui/ZOLReportRenderer.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -49,11 +51,25 @@ inline void whenModalShows(std::function<void(QWidget*)> act, const QString& nam
     timer->start();
 }
 
-inline QPushButton* buttonTitled(QWidget* window, const QString& title) {
-    for (auto* button : window->findChildren<QPushButton*>())
-        if (button->text() == title)
-            return button;
+// The button or menu command that reads `title`.
+template <typename T> T* titled(const QObject* parent, const QString& title) {
+    for (auto* child : parent->findChildren<T*>())
+        if (child->text() == title)
+            return child;
     return nullptr;
+}
+
+// The illustration the information pop-up opened by `act` asked for ("none" without one).
+inline QString illustrationAfter(const std::function<void()>& act) {
+    QString shown = "not opened";
+    whenModalShows([&shown](QWidget* modal) {
+        auto* popup = qobject_cast<ZOLInfoPopup*>(modal);
+        shown = popup && popup->imageName() ? QString::fromStdString(*popup->imageName())
+                                            : QString("none");
+        modal->close();
+    });
+    act();
+    return shown;
 }
 
 template <typename T> T* control(const QObject* parent, const QString& name) {
@@ -199,3 +215,12 @@ public:
     std::deque<std::string> texts;
     std::vector<std::string> shownTexts;
 };
+
+// The main of a test that renders reports: the web engine is set up before the application.
+#define ZOL_RENDERER_TEST_MAIN(TestClass)                                                          \
+    int main(int argc, char** argv) {                                                              \
+        ZOLReportRenderer::prepareApplication();                                                   \
+        QApplication app(argc, argv);                                                              \
+        TestClass test;                                                                            \
+        return QTest::qExec(&test, argc, argv);                                                    \
+    }

@@ -8,7 +8,6 @@
 #include "report/ZOLChangeOrder.h"
 #include "report/ZOLChangeOrderFormat.h"
 #include "ui/ZOLDocument.h"
-#include "ui/ZOLReportRenderer.h"
 
 #include "UiTestSupport.h"
 #include "support/ChangedSample.h"
@@ -80,10 +79,7 @@ private slots:
                  QString("The file “gone.zol” couldn’t be opened."));
 
         // The File menu's command asks the same question; Cancel opens nothing.
-        QAction* compare = nullptr;
-        for (auto* action : document.findChildren<QAction*>())
-            if (action->text() == "Co&mpare With…")
-                compare = action;
+        QAction* compare = titled<QAction>(&document, "Co&mpare With…");
         QVERIFY(compare);
         const auto windows = document.findChildren<ZOLChangeOrderWindow*>().size();
         alerts->answers = {2};
@@ -94,11 +90,6 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    ZOLReportRenderer::prepareApplication();
-    QApplication app(argc, argv);
-    ZOLChangeOrderWindowTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZOL_RENDERER_TEST_MAIN(ZOLChangeOrderWindowTest)
 
 #include "ZOLChangeOrderWindowTest.moc"

@@ -10,12 +10,10 @@ class ZOLConcreteEntryViewControllerTest : public QObject {
 
     std::unique_ptr<ZOLConcreteEntryViewController> screen;
     std::shared_ptr<ZOLConcrete> concrete;
-    std::shared_ptr<AlertRecorder> alerts = std::make_shared<AlertRecorder>();
 
     QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
 
 private slots:
-    void initTestCase() { ZOLAlerts::setPresenter(alerts); }
     void init() {
         concrete = std::make_shared<ZOLConcrete>();
         screen = shownScreen<ZOLConcreteEntryViewController>(
@@ -52,6 +50,7 @@ private slots:
     }
 
     void pullWallDataCopiesHeightLengthAndBlockSize() {
+        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallHeight(9.0);
         wall->setWallLength(120.0);

@@ -7,7 +7,6 @@
 #include "platform/ZOLPreferences.h"
 #include "ui/ZOLDocument.h"
 #include "ui/ZOLHelpMenu.h"
-#include "ui/ZOLReportRenderer.h"
 
 #include "UiTestSupport.h"
 
@@ -58,10 +57,7 @@ private slots:
         ScriptedPanels panels({path});
         ZOLDocument document;
         document.workbook()->worksheets()[0]->wallData()->setWallLength(40);
-        QAction* orderList = nullptr;
-        for (QAction* action : document.findChildren<QAction*>())
-            if (action->text() == "&Order List…")
-                orderList = action;
+        QAction* orderList = titled<QAction>(&document, "&Order List…");
         QVERIFY(orderList);
         orderList->trigger();
         QCOMPARE(panels.requests, QStringList{"Export Spreadsheet *.csv"});
@@ -72,11 +68,6 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    ZOLReportRenderer::prepareApplication();
-    QApplication app(argc, argv);
-    ZOLDocumentPrintTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZOL_RENDERER_TEST_MAIN(ZOLDocumentPrintTest)
 
 #include "ZOLDocumentPrintTest.moc"

