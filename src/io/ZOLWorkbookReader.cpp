@@ -20,6 +20,8 @@
 #include "platform/ZOLClock.h"
 
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <utility>
 
@@ -75,7 +77,7 @@ public:
         for (std::size_t i = slot(name);; i = (i + 1) & kMask) {
             if (slots_[i].first.empty())
                 return {};
-            if (slots_[i].first == name)
+            if (sameName(slots_[i].first, name))
                 return slots_[i].second;
         }
     }
@@ -83,6 +85,22 @@ public:
 private:
     static constexpr std::size_t kSlots = 512;
     static constexpr std::size_t kMask = kSlots - 1;
+    static uint64_t eightBytes(const char* at) {
+        uint64_t word = 0;
+        std::memcpy(&word, at, sizeof word);
+        return word;
+    }
+    // The names are 7 to 23 letters long: two overlapping eight-byte words cover most of them
+    // without a call to the library's general compare.
+    static bool sameName(std::string_view a, std::string_view b) {
+        const std::size_t n = a.size();
+        if (n != b.size())
+            return false;
+        if (n < 8 || n > 16)
+            return a == b;
+        return eightBytes(a.data()) == eightBytes(b.data()) &&
+               eightBytes(a.data() + n - 8) == eightBytes(b.data() + n - 8);
+    }
     static std::size_t slot(std::string_view name) {
         const auto at = [&name](std::size_t i) { return static_cast<unsigned char>(name[i]); };
         std::size_t h = name.size();
