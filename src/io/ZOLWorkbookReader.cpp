@@ -19,7 +19,10 @@
 #include "platform/ZOLAlerts.h"
 #include "platform/ZOLClock.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <cstring>
 #include <initializer_list>
 #include <utility>
 
@@ -65,24 +68,51 @@ public:
     }
     void add(std::string_view name, Element element) {
         std::size_t i = slot(name);
-        while (!slots_[i].first.empty())
+        while (!slots_[i].name.empty())
             i = (i + 1) & kMask;
-        slots_[i] = {name, element};
+        slots_[i] = {name, head(name), tail(name), element};
     }
     Element find(std::string_view name) const {
         if (name.empty())
             return {};
+        const uint64_t nameHead = head(name);
+        const uint64_t nameTail = tail(name);
         for (std::size_t i = slot(name);; i = (i + 1) & kMask) {
-            if (slots_[i].first.empty())
+            const Slot& entry = slots_[i];
+            if (entry.name.empty())
                 return {};
-            if (slots_[i].first == name)
-                return slots_[i].second;
+            if (entry.name.size() == name.size() && entry.head == nameHead &&
+                entry.tail == nameTail && sameMiddle(entry.name, name))
+                return entry.element;
         }
     }
 
 private:
     static constexpr std::size_t kSlots = 512;
     static constexpr std::size_t kMask = kSlots - 1;
+    // Every start tag is looked up: each slot keeps the first and the last eight letters of its
+    // name beside it, so that a name of up to 16 letters is told apart without reading the
+    // stored name itself. Shorter names are padded with zeros.
+    struct Slot {
+        std::string_view name;
+        uint64_t head = 0;
+        uint64_t tail = 0;
+        Element element;
+    };
+    static uint64_t eightBytes(std::string_view name, std::size_t from) {
+        uint64_t word = 0;
+        std::memcpy(&word, name.data() + from, std::min<std::size_t>(8, name.size() - from));
+        return word;
+    }
+    static uint64_t head(std::string_view name) { return eightBytes(name, 0); }
+    static uint64_t tail(std::string_view name) {
+        return name.size() > 8 ? eightBytes(name, name.size() - 8) : 0;
+    }
+    // Names of the same length and the same first and last eight letters differ only in what
+    // lies between, which only names of more than 16 letters have.
+    static bool sameMiddle(std::string_view a, std::string_view b) {
+        return a.size() <= 16 || a.substr(8, a.size() - 16) == b.substr(8, b.size() - 16);
+    }
     static std::size_t slot(std::string_view name) {
         const auto at = [&name](std::size_t i) { return static_cast<unsigned char>(name[i]); };
         std::size_t h = name.size();
@@ -91,7 +121,7 @@ private:
         h = h * 131 + at(name.size() - 1);
         return h & kMask;
     }
-    std::array<std::pair<std::string_view, Element>, kSlots> slots_{};
+    std::array<Slot, kSlots> slots_{};
 };
 
 Element lookUp(std::string_view name) {
