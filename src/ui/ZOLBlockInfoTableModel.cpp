@@ -3,14 +3,7 @@
 #include "calc/ZOLWallData.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLWall.h"
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
+#include "ui/ZOLQtText.h"
 
 ZOLBlockInfoTableModel::ZOLBlockInfoTableModel(QObject* parent)
     : ZOLTableModel({{tr("Part")},

@@ -5,16 +5,9 @@
 #include "io/ZOLNumeric.h"
 #include "model/ZOLWall.h"
 #include "ui/ZOLBlockInfoTableModel.h"
+#include "ui/ZOLQtText.h"
 
 #include <QHeaderView>
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 ZOLBlockInfoViewController::ZOLBlockInfoViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLBlockInfoViewController>()),

@@ -12,6 +12,7 @@
 #include "ui/ZOLFileAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLJobSnapshot.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLReportRenderer.h"
 #include "ui_ZOLChangeOrderWindow.h"
 
@@ -21,14 +22,6 @@
 #include <QFontDatabase>
 #include <QPrintDialog>
 #include <QPrinter>
-
-namespace {
-
-std::string utf8(const QString& text) {
-    return text.toUtf8().toStdString();
-}
-
-} // namespace
 
 ZOLChangeOrderWindow::ZOLChangeOrderWindow(std::shared_ptr<ZOLWorkbook> older,
                                            std::shared_ptr<ZOLWorkbook> newer,

@@ -5,15 +5,10 @@
 #include "model/ZOLConcrete.h"
 #include "model/ZOLWall.h"
 #include "platform/ZOLAlerts.h"
+#include "ui/ZOLQtText.h"
 
 #include <array>
 #include <tuple>
-
-namespace {
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-} // namespace
 
 ZOLConcreteEntryViewController::ZOLConcreteEntryViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLConcreteEntryViewController>()) {

@@ -5,12 +5,9 @@
 #include "io/ZOLText.h"
 #include "model/ZOLCustomItem.h"
 #include "ui/ZOLEntryField.h"
+#include "ui/ZOLQtText.h"
 
 namespace {
-QString qs(const std::optional<std::string>& text) {
-    return text ? QString::fromStdString(*text) : QString();
-}
-
 // A number as the form shows it for editing: to six decimals as the template file keeps it,
 // without the trailing zeros beyond `minimumDecimals`.
 QString editText(double value, int minimumDecimals) {

@@ -17,6 +17,7 @@
 #include "ui/ZOLOpeningsEntryViewController.h"
 #include "ui/ZOLPricingWindowController.h"
 #include "ui/ZOLPrintSettingsWindowController.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLRebarEntryViewController.h"
 #include "ui/ZOLRecentFiles.h"
 #include "ui/ZOLRecoveryStore.h"
@@ -55,18 +56,6 @@
 #include <QUrl>
 
 namespace {
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString qs(const std::optional<std::string>& text) {
-    return text ? qs(*text) : QString();
-}
-
-std::string utf8(const QString& text) {
-    return text.toUtf8().toStdString();
-}
-
 const char* kDuplicateWorksheet =
     "A worksheet with that name already exists. Please try again with a different worksheet "
     "name.";

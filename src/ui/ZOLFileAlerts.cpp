@@ -5,16 +5,11 @@
 #include "io/ZOLReadCheck.h"
 #include "io/ZOLSaxParser.h"
 #include "platform/ZOLAlerts.h"
+#include "ui/ZOLQtText.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QObject>
-
-namespace {
-std::string utf8(const QString& text) {
-    return text.toUtf8().toStdString();
-}
-} // namespace
 
 QString ZOLFileAlerts::cannotOpen(const QString& path) {
     return QObject::tr("The file “%1” couldn’t be opened.").arg(QFileInfo(path).fileName());

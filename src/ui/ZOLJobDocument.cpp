@@ -12,6 +12,7 @@
 #include "ui/ZOLOpeningsCommand.h"
 #include "ui/ZOLPricesCommand.h"
 #include "ui/ZOLProjectHeaderCommand.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLRecordEditCommand.h"
 #include "ui/ZOLRecoveryStore.h"
 #include "ui/ZOLSettingsPreferences.h"
@@ -24,18 +25,6 @@
 #include <QUndoStack>
 
 namespace {
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString qs(const std::optional<std::string>& text) {
-    return text ? qs(*text) : QString();
-}
-
-std::string utf8(const QString& text) {
-    return text.toUtf8().toStdString();
-}
-
 std::string nativePath(const QString& path) {
     return QFile::encodeName(path).toStdString();
 }

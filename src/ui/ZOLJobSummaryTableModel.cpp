@@ -1,14 +1,11 @@
 #include "ui/ZOLJobSummaryTableModel.h"
 
 #include "model/ZOLCustomItem.h"
+#include "ui/ZOLQtText.h"
 
 #include <QLocale>
 
 namespace {
-
-QString qs(const std::optional<std::string>& text) {
-    return text ? QString::fromStdString(*text) : QString();
-}
 
 // Prices are in dollars wherever the program runs, as on the printed pages.
 const QLocale& dollars() {

@@ -10,15 +10,12 @@
 #include "platform/ZOLAlerts.h"
 #include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLInfoShortcut.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLWallHeightBox.h"
 
 #include <array>
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 using Calc = ZOLManHourCalculator;
 

@@ -7,16 +7,9 @@
 #include "model/ZOLWall.h"
 #include "platform/ZOLAlerts.h"
 #include "ui/ZOLOpeningsTableModel.h"
+#include "ui/ZOLQtText.h"
 
 #include <QHeaderView>
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 ZOLOpeningsEntryViewController::ZOLOpeningsEntryViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLOpeningsEntryViewController>()),

@@ -4,14 +4,7 @@
 #include "io/ZOLText.h"
 #include "model/ZOLOpening.h"
 #include "model/ZOLOpenings.h"
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
+#include "ui/ZOLQtText.h"
 
 ZOLOpeningsTableModel::ZOLOpeningsTableModel(QObject* parent)
     : ZOLTableModel({{tr("#")},

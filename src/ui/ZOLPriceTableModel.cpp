@@ -4,12 +4,9 @@
 #include "io/ZOLText.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
+#include "ui/ZOLQtText.h"
 
 namespace {
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // The earlier line of the list that answers the look-ups of `items[index]` first, if any: a
 // workbook file's prices come after the list every workbook starts with, so after reopening a
 // priced workbook its prices sit below lines of the same parts.

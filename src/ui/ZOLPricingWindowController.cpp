@@ -8,16 +8,13 @@
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLPriceTableModel.h"
 #include "ui_ZOLPricing.h"
+#include "ui/ZOLQtText.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QStyledItemDelegate>
 
 namespace {
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 // Price cells take what the entry fields take: typing is cleaned to digits and full stops
 // as it happens, and the price is the number the text starts with.
 class PriceDelegate : public QStyledItemDelegate {

@@ -1,5 +1,7 @@
 #include "ui/ZOLQtAlertPresenter.h"
 
+#include "ui/ZOLQtText.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -12,10 +14,6 @@
 #include <QVBoxLayout>
 
 namespace {
-QString qs(const std::string& s) {
-    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
-}
-
 // The role that places a button where users of the desktop expect it and gives Escape to the
 // button that backs out.
 QDialogButtonBox::ButtonRole roleFor(const std::string& title, size_t index) {

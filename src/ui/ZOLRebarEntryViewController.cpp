@@ -7,13 +7,10 @@
 #include "model/ZOLRebar.h"
 #include "model/ZOLWall.h"
 #include "platform/ZOLAlerts.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLWallHeightBox.h"
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 
 std::vector<std::string> sizeList(int32_t measurement) {
     return measurement == 1 ? ZOLRebarCalculator::getMetricRebarSizes()

@@ -5,12 +5,7 @@
 #include "io/ZOLFormat.h"
 #include "io/ZOLNumeric.h"
 #include "model/ZOLTilt.h"
-
-namespace {
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-} // namespace
+#include "ui/ZOLQtText.h"
 
 ZOLTiltEntryViewController::ZOLTiltEntryViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLTiltEntryViewController>()) {

@@ -10,16 +10,9 @@
 #include "ui/ZOLEntryFields.h"
 #include "ui/ZOLInfoPopup.h"
 #include "ui/ZOLInfoShortcut.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLStepper.h"
 #include "ui/ZOLWallHeightBox.h"
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
-
-} // namespace
 
 ZOLWallEntryViewController::ZOLWallEntryViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLWallEntryViewController>()) {

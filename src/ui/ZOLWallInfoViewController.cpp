@@ -4,12 +4,10 @@
 #include "calc/ZOLCalculatorMaster.h"
 #include "io/ZOLFormat.h"
 #include "model/ZOLWall.h"
+#include "ui/ZOLQtText.h"
 
 namespace {
 
-QString qs(const std::string& text) {
-    return QString::fromStdString(text);
-}
 QString feet(double value) {
     return qs(ZOLCalculatorMaster::convertFeetToText(value));
 }

@@ -1,14 +1,11 @@
 #include "ui/ZOLWorkbookSummaryTableModel.h"
 
 #include "io/ZOLFormat.h"
+#include "ui/ZOLQtText.h"
 
 #include <QFont>
 
 namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString money(double value) {
     return qs(ZOLFormat::format("$%.2f", value));

@@ -2,18 +2,11 @@
 
 #include "io/ZOLFormat.h"
 #include "model/ZOLWorkbook.h"
+#include "ui/ZOLQtText.h"
 #include "ui/ZOLWorkbookSummaryTableModel.h"
 #include "ui_ZOLWorkbookSummaryViewController.h"
 
 #include <QHeaderView>
-
-namespace {
-
-QString qs(const std::string& text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-} // namespace
 
 ZOLWorkbookSummaryViewController::ZOLWorkbookSummaryViewController(QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::ZOLWorkbookSummaryViewController>()),
