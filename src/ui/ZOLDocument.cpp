@@ -427,7 +427,9 @@ void ZOLDocument::editNotes() {
 
 void ZOLDocument::editPricing() {
     ZOLPricingWindowController window(workbook()->pricingData(), this);
-    watchPricing(&window);
+    // Each change made in the window is one change of the job's history.
+    connect(&window, &ZOLPricingWindowController::pricesChanged, this,
+            [this](const QString& change) { job_->noteEdit(change); });
     window.exec();
     if (workbookSummary_)
         workbookSummary_->loadValues();
@@ -801,22 +803,6 @@ void ZOLDocument::showChange(const ZOLEditPlace& place) {
         if (auto* field = qobject_cast<QLineEdit*>(control))
             field->selectAll();
     }
-}
-
-void ZOLDocument::watchPricing(QWidget* window) {
-    // Each command of the window is one change; a price typed into the list is another.
-    const std::pair<const char*, QString> commands[] = {{"openPricing", tr("Load Price File")},
-                                                        {"useSavedPrices", tr("Use Saved Prices")}};
-    for (const auto& [name, change] : commands)
-        if (auto* button = window->findChild<QAbstractButton*>(QString::fromLatin1(name)))
-            connect(button, &QAbstractButton::clicked, this,
-                    [this, change] { job_->noteEdit(change); });
-    // A cell typed into is recorded once the list has taken it; refilling the list after a
-    // file was loaded changes nothing more by then, and the load keeps its own name.
-    if (auto* list = window->findChild<QAbstractItemView*>(); list && list->model())
-        connect(list->model(), &QAbstractItemModel::dataChanged, this, [this] {
-            QTimer::singleShot(0, this, [this] { job_->noteEdit(tr("Price Change")); });
-        });
 }
 
 bool ZOLDocument::eventFilter(QObject* watched, QEvent* event) {

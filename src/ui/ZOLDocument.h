@@ -134,8 +134,6 @@ private:
     void reloadScreens();
     // Shows the job again after undo or redo, at the place of the change.
     void showChange(const ZOLEditPlace& place);
-    // Records each change made in the price list window as it is made.
-    void watchPricing(QWidget* window);
     int32_t selectedWorksheetIndex() const;
     // Shows the print settings; the report they ask for, or nothing when the user cancelled.
     std::optional<std::string> reportFromPrintSettings(const QString& acceptTitle);

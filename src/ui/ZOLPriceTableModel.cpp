@@ -96,5 +96,6 @@ bool ZOLPriceTableModel::setData(const QModelIndex& index, const QVariant& value
         pricingData_->priceItems()[static_cast<size_t>(index.row())]->setPrice(
             ZOLText::leadingDouble(text));
     emit dataChanged(index, index);
+    emit priceEdited();
     return true;
 }

@@ -29,6 +29,10 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
+signals:
+    // The user typed a price into a cell (a reload is not an edit).
+    void priceEdited();
+
 private:
     bool isListed(const QModelIndex& index) const;
 

@@ -57,6 +57,9 @@ ZOLPricingWindowController::ZOLPricingWindowController(std::shared_ptr<ZOLPricin
     connect(ui_->useSavedPrices, &QPushButton::clicked, this,
             &ZOLPricingWindowController::useSavedPrices);
     connect(ui_->done, &QPushButton::clicked, this, &QDialog::accept);
+    // A price typed into the list; a refill after a load or the saved prices is their change.
+    connect(priceModel_, &ZOLPriceTableModel::priceEdited, this,
+            [this] { emit pricesChanged(tr("Price Change")); });
     loadData();
     // Typing on an opened window goes into the first price.
     ui_->priceTable->setCurrentIndex(priceModel_->index(0, ZOLPriceTableModel::Price));
@@ -83,6 +86,8 @@ void ZOLPricingWindowController::openPricingFile(const QString& path) {
         ZOLFileAlerts::accepted(path, ZOLFileKind::PriceList,
                                 ZOLPriceFileReader::readPriceData(*bytes, *pricingData_));
     loadData();
+    // A file that could not be read changed nothing, and the change then records nothing.
+    emit pricesChanged(tr("Load Price File"));
 }
 
 void ZOLPricingWindowController::savePricing() {
@@ -100,6 +105,8 @@ void ZOLPricingWindowController::savePricingFile(const QString& path) {
 }
 
 void ZOLPricingWindowController::useSavedPrices() {
-    if (pricingData_ && pricingData_->useSavedItems())
+    if (pricingData_ && pricingData_->useSavedItems()) {
         loadData();
+        emit pricesChanged(tr("Use Saved Prices"));
+    }
 }

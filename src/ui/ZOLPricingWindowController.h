@@ -33,6 +33,11 @@ public:
     // Makes the prices the workbook was saved with the whole list (see ZOLPricing).
     void useSavedPrices();
 
+signals:
+    // The list may have changed, named as the user would name the change ("Load Price File",
+    // "Use Saved Prices", "Price Change"), so that it can be undone as one.
+    void pricesChanged(const QString& change);
+
 private:
     std::unique_ptr<Ui::ZOLPricing> ui_;
     std::shared_ptr<ZOLPricing> pricingData_;
