@@ -7,7 +7,6 @@
 #include <cstdarg>
 #include <cstdio>
 #include <locale.h>
-#include <vector>
 
 namespace {
 
@@ -119,10 +118,8 @@ bool ZOLFormat::appendPlain(std::string& out, const char* fmt, const Arg* args,
     return next == count || giveUp();
 }
 
-void ZOLFormat::appendRaw(std::string& out, const char* fmt, ...) {
+void ZOLFormat::vappendRaw(std::string& out, const char* fmt, va_list args) {
     CNumericScope scope;
-    va_list args;
-    va_start(args, fmt);
     va_list copy;
     va_copy(copy, args);
 #pragma GCC diagnostic push
@@ -144,26 +141,20 @@ void ZOLFormat::appendRaw(std::string& out, const char* fmt, ...) {
         }
     }
 #pragma GCC diagnostic pop
+}
+
+void ZOLFormat::appendRaw(std::string& out, const char* fmt, ...) {
+    va_list args;
+    va_start(args, fmt);
+    vappendRaw(out, fmt, args);
     va_end(args);
 }
 
 std::string ZOLFormat::formatRaw(const char* fmt, ...) {
-    CNumericScope scope;
+    std::string out;
     va_list args;
     va_start(args, fmt);
-    va_list copy;
-    va_copy(copy, args);
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-    const int needed = std::vsnprintf(nullptr, 0, fmt, copy);
-    va_end(copy);
-    std::string out;
-    if (needed > 0) {
-        std::vector<char> buffer(static_cast<std::size_t>(needed) + 1);
-        std::vsnprintf(buffer.data(), buffer.size(), fmt, args);
-        out.assign(buffer.data(), static_cast<std::size_t>(needed));
-    }
-#pragma GCC diagnostic pop
+    vappendRaw(out, fmt, args);
     va_end(args);
     return out;
 }

@@ -1,4 +1,5 @@
 #pragma once
+#include <cstdarg>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -71,6 +72,7 @@ private:
     static bool translateInto(const char* fmt, char* out, std::size_t size);
     static std::string formatRaw(const char* fmt, ...);
     static void appendRaw(std::string& out, const char* fmt, ...);
+    static void vappendRaw(std::string& out, const char* fmt, va_list args);
 
     static const char* pass(const std::string& s) { return s.c_str(); }
     static const char* pass(const char* s) { return s ? s : "(null)"; }
