@@ -79,40 +79,9 @@ void removeLeftovers(const std::filesystem::path& folder, const std::filesystem:
     }
 }
 
-// Reads back what was written to the temporary file.
-bool readBack(const std::string& path, std::string& out) {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    // Room for the whole file at once: it was just written, so its size is known.
-    struct stat info {};
-    if (::fstat(fd, &info) == 0 && info.st_size > 0)
-        out.reserve(static_cast<std::size_t>(info.st_size));
-    char buffer[65536];
-    ssize_t n = 0;
-    while ((n = ::read(fd, buffer, sizeof buffer)) != 0) {
-        if (n < 0) {
-            if (errno == EINTR)
-                continue;
-            ::close(fd);
-            return false;
-        }
-        out.append(buffer, static_cast<std::size_t>(n));
-    }
-    ::close(fd);
-    return true;
-}
-
 } // namespace
 
 bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, std::string* error) {
-    return write(path, bytes, Acceptor(), nullptr, error);
-}
-
-bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, const Acceptor& accept,
-                          bool* refused, std::string* error) {
-    if (refused)
-        *refused = false;
     const std::string destination = destinationOf(path);
     const std::filesystem::path target(destination);
     const std::filesystem::path folder =
@@ -150,17 +119,6 @@ bool ZOLAtomicFile::write(const std::string& path, std::string_view bytes, const
         code = errno;
     if (::close(fd) != 0 && code == 0)
         code = errno;
-    if (code == 0 && accept) {
-        std::string written;
-        if (!readBack(temporary, written)) {
-            code = errno != 0 ? errno : EIO;
-        } else if (!accept(written)) {
-            ::unlink(temporary.c_str());
-            if (refused)
-                *refused = true;
-            return fail(error, EILSEQ);
-        }
-    }
     if (code == 0 && ::rename(temporary.c_str(), destination.c_str()) != 0)
         code = errno;
     if (code != 0) {

@@ -1,5 +1,4 @@
 #pragma once
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -17,11 +16,4 @@ public:
     // points to is replaced. On failure returns false with the system's reason in `error`.
     static bool write(const std::string& path, std::string_view bytes,
                       std::string* error = nullptr);
-
-    // The same, but the temporary file's bytes, as read back from the disk, must be accepted
-    // by `accept` before they replace the destination. A refusal sets `refused` and leaves the
-    // destination as it was.
-    using Acceptor = std::function<bool(std::string_view written)>;
-    static bool write(const std::string& path, std::string_view bytes, const Acceptor& accept,
-                      bool* refused, std::string* error = nullptr);
 };

@@ -49,16 +49,10 @@ bool ZOLFileSaver::readsBack(std::string_view bytes, ZOLFileKind kind) {
 
 ZOLFileSaver::Outcome ZOLFileSaver::save(const std::string& path, std::string_view bytes,
                                          ZOLFileKind kind, std::string* error) {
-    bool refused = false;
-    const bool written = ZOLAtomicFile::write(
-        path, bytes, [kind](std::string_view back) { return readsBack(back, kind); }, &refused,
-        error);
-    if (written)
-        return Outcome::Saved;
-    if (refused) {
+    if (!readsBack(bytes, kind)) {
         if (error)
             *error = kUnreadableReason;
         return Outcome::Unreadable;
     }
-    return Outcome::WriteFailed;
+    return ZOLAtomicFile::write(path, bytes, error) ? Outcome::Saved : Outcome::WriteFailed;
 }

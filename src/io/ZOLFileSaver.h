@@ -6,9 +6,10 @@
 enum class ZOLFileKind { Workbook, PriceList, Template };
 
 // Saving a workbook, price file or template so that a readable file is never replaced by one
-// that cannot be opened again: the bytes are written to a temporary file, read back from it by
-// the reader of their kind (the open check included, no alert shown), and only then renamed
-// over the old file.
+// that cannot be opened again: the reader of their kind (the open check included, no alert
+// shown) reads the bytes before they go to the disk, and only bytes it opens are written and
+// renamed over the old file. Reading them back from the temporary file would give the same
+// bytes out of the system's file cache, at the cost of one more copy of the whole file.
 class ZOLFileSaver {
 public:
     ZOLFileSaver() = delete;
