@@ -26,16 +26,17 @@ std::optional<std::string> ZOLFileBytes::read(const std::string& path, std::size
         ::close(fd);
         return failure(error, code);
     }
-    std::string bytes;
     const std::size_t limit = maxBytes + 1;
-    // Room for the whole file at once, so that a large one is not copied from buffer to
-    // growing buffer as it comes in.
-    if (info.st_size > 0)
-        bytes.reserve(std::min(static_cast<std::size_t>(info.st_size), limit));
-    char buffer[65536];
-    while (bytes.size() < limit) {
-        const std::size_t want = std::min(sizeof buffer, limit - bytes.size());
-        const ssize_t got = ::read(fd, buffer, want);
+    // Room for the whole file and one byte more, read straight into place: the end of the file
+    // is then seen without the buffer growing, and a large file is not copied twice.
+    std::string bytes(
+        std::min(info.st_size > 0 ? static_cast<std::size_t>(info.st_size) + 1 : 65536, limit),
+        '\0');
+    std::size_t used = 0;
+    while (used < limit) {
+        if (used == bytes.size())
+            bytes.resize(std::min(2 * bytes.size(), limit));
+        const ssize_t got = ::read(fd, bytes.data() + used, bytes.size() - used);
         if (got < 0) {
             if (errno == EINTR)
                 continue;
@@ -45,8 +46,9 @@ std::optional<std::string> ZOLFileBytes::read(const std::string& path, std::size
         }
         if (got == 0)
             break;
-        bytes.append(buffer, static_cast<std::size_t>(got));
+        used += static_cast<std::size_t>(got);
     }
+    bytes.resize(used);
     ::close(fd);
     return bytes;
 }
