@@ -9,7 +9,8 @@
 
 // What a file reader hears from the XML event parser, in document order: start tags with their
 // attributes, character chunks as the parser delivers them, ignorable whitespace, end tags, and
-// then either the end of the document or a parse error (never both).
+// then either the end of the document or a parse error (never both). For the length of a parse
+// an element's name is always handed on at the same address, and no other name at it.
 class ZOLSaxHandler {
 public:
     // A start tag's attributes as (qualified name, value) pairs, entity references resolved.

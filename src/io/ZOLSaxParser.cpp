@@ -1,6 +1,7 @@
 #include "io/ZOLSaxParser.h"
 
 #include <libxml/SAX2.h>
+#include <libxml/dict.h>
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/xmlerror.h>
@@ -51,16 +52,13 @@ std::string_view view(const xmlChar* text, int length) {
     return {reinterpret_cast<const char*>(text), static_cast<std::size_t>(length)};
 }
 
-// The element's name as the file writes it: "prefix:name", or the name alone. The common case,
-// no prefix, needs no copy.
-std::string_view qualifiedName(const xmlChar* localname, const xmlChar* prefix,
-                               std::string& storage) {
-    if (!prefix)
-        return reinterpret_cast<const char*>(localname);
-    storage = reinterpret_cast<const char*>(prefix);
-    storage += ':';
-    storage += reinterpret_cast<const char*>(localname);
-    return storage;
+// The element's or attribute's name as the file writes it: "prefix:name", or the name alone.
+// Both come out of libxml2's dictionary of the parse, which holds one copy of each name until
+// the parse ends: a name always arrives at the same address, and no other name at it.
+std::string_view qualifiedName(xmlParserCtxtPtr context, const xmlChar* localname,
+                               const xmlChar* prefix) {
+    const xmlChar* name = prefix ? xmlDictQLookup(context->dict, prefix, localname) : localname;
+    return name ? reinterpret_cast<const char*>(name) : std::string_view();
 }
 
 // Without entity substitution libxml2 hands an attribute's "&" on as the character reference
@@ -99,22 +97,21 @@ template <typename Call> void dispatch(void* ctx, Call call) {
 void onStartElement(void* ctx, const xmlChar* localname, const xmlChar* prefix, const xmlChar*, int,
                     const xmlChar**, int attributeCount, int, const xmlChar** attributes) {
     dispatch(ctx, [&](ZOLSaxHandler& handler) {
+        const xmlParserCtxtPtr context = stateOf(ctx).context;
         ZOLSaxHandler::Attributes list;
         list.reserve(static_cast<std::size_t>(attributeCount));
-        std::string storage;
         for (int i = 0; i < attributeCount; ++i) {
             const xmlChar** a = attributes + 5 * i;
-            list.emplace_back(std::string(qualifiedName(a[0], a[1], storage)),
+            list.emplace_back(std::string(qualifiedName(context, a[0], a[1])),
                               attributeValue(a[3], a[4]));
         }
-        handler.startElement(qualifiedName(localname, prefix, storage), list);
+        handler.startElement(qualifiedName(context, localname, prefix), list);
     });
 }
 
 void onEndElement(void* ctx, const xmlChar* localname, const xmlChar* prefix, const xmlChar*) {
     dispatch(ctx, [&](ZOLSaxHandler& handler) {
-        std::string storage;
-        handler.endElement(qualifiedName(localname, prefix, storage));
+        handler.endElement(qualifiedName(stateOf(ctx).context, localname, prefix));
     });
 }
 

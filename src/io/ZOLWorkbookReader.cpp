@@ -149,7 +149,7 @@ template <typename Record, typename Store>
 void finishRecord(std::shared_ptr<Record>& slot, const std::shared_ptr<ZOLWorksheet>& worksheet,
                   Store store) {
     if (slot && worksheet)
-        ((*worksheet).*store)(slot);
+        ((*worksheet).*store)(std::move(slot));
     slot.reset();
 }
 
@@ -188,8 +188,19 @@ bool ZOLWorkbookReader::countObjects(int32_t count) {
     return true;
 }
 
+const ZOLWorkbookReader::KnownName& ZOLWorkbookReader::knownName(std::string_view name) {
+    const auto address = reinterpret_cast<std::uintptr_t>(name.data());
+    KnownName& known = knownNames_[((address >> 2) ^ (address >> 10)) & (knownNames_.size() - 1)];
+    if (known.address != name.data() || known.size != name.size()) {
+        const Element element = lookUp(name);
+        known = {name.data(), name.size(), static_cast<int32_t>(element.tag), element.code};
+    }
+    return known;
+}
+
 void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& attributes) {
-    const Element element = lookUp(name);
+    const KnownName& known = knownName(name);
+    const Element element{static_cast<Tag>(known.tag), known.code};
     // The end tag of an element is the one for the latest open element: it needs no look-up.
     open_.push_back(static_cast<int32_t>(element.tag));
     switch (element.tag) {
@@ -332,7 +343,7 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
                 abortParse();
                 return;
             }
-            openings_->addOpeningObject(opening_);
+            openings_->addOpeningObject(std::move(opening_));
         }
         opening_.reset();
         break;
@@ -353,7 +364,7 @@ void ZOLWorkbookReader::endElement(std::string_view name) {
                 abortParse();
                 return;
             }
-            workbook_->pricingData()->addPriceItem(priceItem_);
+            workbook_->pricingData()->addPriceItem(std::move(priceItem_));
         }
         priceItem_.reset();
         break;

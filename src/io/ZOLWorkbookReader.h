@@ -3,6 +3,8 @@
 #include "io/ZOLReadStatus.h"
 #include "io/ZOLSaxHandler.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -75,6 +77,16 @@ public:
     const std::shared_ptr<ZOLWorkbook>& loadedWorkbook() const { return loaded_; }
 
 private:
+    // What an element name means to the reader, kept by the name's address: the parser hands
+    // on one address per name, so the element table is searched once per name, not once per
+    // element of a large workbook.
+    struct KnownName {
+        const char* address = nullptr;
+        std::size_t size = 0;
+        int32_t tag = 0;
+        int32_t code = 0;
+    };
+    const KnownName& knownName(std::string_view name);
     void applyProperty();
     bool countObjects(int32_t count);
 
@@ -101,4 +113,5 @@ private:
     std::shared_ptr<ZOLWorkbook> loaded_;
     int32_t worksheetsSeen_ = 0;
     int32_t objects_ = 0;
+    std::array<KnownName, 256> knownNames_{};
 };
