@@ -9,9 +9,7 @@ void ZOLOpenings::clear() {
 }
 
 void ZOLOpenings::addOpeningObject(std::shared_ptr<ZOLOpening> opening) {
-    std::vector<std::shared_ptr<ZOLOpening>> list = openingList_;
-    list.push_back(std::move(opening));
-    setOpeningList(std::move(list));
+    openingList_.push_back(std::move(opening));
 }
 
 double ZOLOpenings::getTotalSquareFeet() const {

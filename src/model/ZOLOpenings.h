@@ -16,7 +16,7 @@ public:
     void setOpeningList(std::vector<std::shared_ptr<ZOLOpening>> list) {
         openingList_ = std::move(list);
     }
-    // Appends one row to a copy of the list and stores the copy.
+    // Appends one row to the list.
     void addOpeningObject(std::shared_ptr<ZOLOpening> opening);
 
     // Sums over the rows, in list order.

@@ -21,9 +21,7 @@ void ZOLPricing::clear() {
 }
 
 void ZOLPricing::addPriceItem(std::shared_ptr<ZOLPriceItem> item) {
-    std::vector<std::shared_ptr<ZOLPriceItem>> items = priceItems_;
-    items.push_back(std::move(item));
-    priceItems_ = std::move(items);
+    priceItems_.push_back(std::move(item));
 }
 
 double ZOLPricing::getPriceForItemType(int32_t type, int32_t withItemSize) const {
