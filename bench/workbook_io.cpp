@@ -6,6 +6,7 @@
 // For the comparison of whole processes (bench/resave_process.sh):
 //   workbook_io --write FILE      writes the large workbook to FILE
 //   workbook_io --sax-pass FILE   reads FILE and runs the bare SAX pass over it, nothing else
+//   workbook_io --read FILE       reads FILE and opens it as a workbook, nothing else
 #include "io/ZOLFileBytes.h"
 #include "io/ZOLFileSaver.h"
 #include "io/ZOLSaxParser.h"
@@ -232,11 +233,14 @@ int processMode(const std::string& mode, const char* path) {
         return (out && std::fclose(out) == 0 && written) ? 0 : 1;
     }
     const auto bytes = ZOLFileBytes::read(path, ZOLSaxParser::kMaxDocumentBytes);
+    if (mode == "--read")
+        return bytes && ZOLWorkbookReader::readWorkbookData(*bytes).ok() ? 0 : 1;
     return bytes && bareSaxPass(*bytes) ? 0 : 1;
 }
 
 int main(int argc, char** argv) {
-    if (argc == 3 && (std::strcmp(argv[1], "--write") == 0 || std::strcmp(argv[1], "--sax-pass") == 0))
+    if (argc == 3 && (std::strcmp(argv[1], "--write") == 0 || std::strcmp(argv[1], "--sax-pass") == 0 ||
+                      std::strcmp(argv[1], "--read") == 0))
         return processMode(argv[1], argv[2]);
     xmlMemSetup(countedFree, countedMalloc, countedRealloc, countedStrdup);
     xmlInitParser();
