@@ -180,8 +180,8 @@ BENCHMARK(BM_ReadWorkbook)
     ->Repetitions(5)
     ->ReportAggregatesOnly(true);
 
-// What `zolest resave` does between reading the file and writing it: open, write, and read back
-// what was written before it may replace the file.
+// What `zolest resave` does between reading the file and writing it: open, write, and read
+// what is to be written before it may replace the file.
 void BM_Resave(benchmark::State& state) {
     const std::string& bytes = fileBytes();
     for (auto _ : state) {
@@ -282,7 +282,7 @@ int main(int argc, char** argv) {
     if (bare > 0 && read > 0)
         std::printf("read time / bare SAX pass: %.2f (goal: under 1.5)\n", read / bare);
     if (bare > 0 && resave > 0)
-        std::printf("resave in memory (read, write, read back) / bare SAX pass: %.2f\n",
+        std::printf("resave in memory (read, write, read the written) / bare SAX pass: %.2f\n",
                     resave / bare);
     if (bytesPerSecond("BM_WriteWorkbook") > 0)
         std::printf("write throughput: %.1f MB/s\n", bytesPerSecond("BM_WriteWorkbook") / 1e6);
