@@ -153,6 +153,22 @@ void finishRecord(std::shared_ptr<Record>& slot, const std::shared_ptr<ZOLWorksh
     slot.reset();
 }
 
+// A worksheet comes with its six records at their defaults. The first element of each kind in
+// the worksheet fills the worksheet's own record, which is what a new record would be, and
+// spares a large workbook making and freeing six records per worksheet; a repeated element
+// starts from a new record, as it always did.
+template <typename Record>
+std::shared_ptr<Record> newRecord(const std::shared_ptr<ZOLWorksheet>& worksheet,
+                                  const std::shared_ptr<Record>& (ZOLWorksheet::*own)() const,
+                                  uint32_t& untouched, uint32_t kind) {
+    if (worksheet && (untouched & kind)) {
+        untouched &= ~kind;
+        if (const auto& record = ((*worksheet).*own)())
+            return record;
+    }
+    return std::make_shared<Record>();
+}
+
 } // namespace
 
 ZOLWorkbookReader::ZOLWorkbookReader(const ZOLReadLimits& limits) : limits_(limits) {}
@@ -220,16 +236,17 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
             break;
         }
         worksheet_ = std::make_shared<ZOLWorksheet>();
+        untouchedRecords_ = ~0u;
         if (auto worksheetName = attribute(attributes, "Name"))
             worksheet_->setName(*worksheetName);
         break;
     case Tag::ConcreteData:
         if (countObjects(1))
-            concrete_ = std::make_shared<ZOLConcrete>();
+            concrete_ = newRecord(worksheet_, &ZOLWorksheet::concreteData, untouchedRecords_, 1u);
         break;
     case Tag::OpeningData:
         if (countObjects(1))
-            openings_ = std::make_shared<ZOLOpenings>();
+            openings_ = newRecord(worksheet_, &ZOLWorksheet::openingData, untouchedRecords_, 2u);
         break;
     case Tag::Opening:
         if (countObjects(1))
@@ -237,19 +254,19 @@ void ZOLWorkbookReader::startElement(std::string_view name, const Attributes& at
         break;
     case Tag::RebarData:
         if (countObjects(1))
-            rebar_ = std::make_shared<ZOLRebar>();
+            rebar_ = newRecord(worksheet_, &ZOLWorksheet::rebarData, untouchedRecords_, 4u);
         break;
     case Tag::TiltData:
         if (countObjects(1))
-            tilt_ = std::make_shared<ZOLTilt>();
+            tilt_ = newRecord(worksheet_, &ZOLWorksheet::tiltData, untouchedRecords_, 8u);
         break;
     case Tag::WallData:
         if (countObjects(1))
-            wall_ = std::make_shared<ZOLWall>();
+            wall_ = newRecord(worksheet_, &ZOLWorksheet::wallData, untouchedRecords_, 16u);
         break;
     case Tag::ManHourData:
         if (countObjects(1))
-            manHours_ = std::make_shared<ZOLManHours>();
+            manHours_ = newRecord(worksheet_, &ZOLWorksheet::manHourData, untouchedRecords_, 32u);
         break;
     case Tag::PriceItem:
         if (countObjects(1))

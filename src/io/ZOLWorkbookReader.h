@@ -102,6 +102,8 @@ private:
     std::shared_ptr<ZOLPriceItem> priceItem_;
     std::optional<std::string> text_;
     int32_t property_ = 0;
+    // The worksheet's own records no element has filled yet, one bit per kind.
+    uint32_t untouchedRecords_ = 0;
     // What each open element is, innermost last.
     std::vector<int32_t> open_;
 
