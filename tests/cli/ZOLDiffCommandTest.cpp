@@ -10,9 +10,6 @@
 
 namespace {
 
-const std::string kSample = std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol";
-const std::string kPrices = std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp";
-
 // The shown job-summary money of a take-off.
 double shownMoney(const nlohmann::json& takeoff) {
     double total = 0.0;
@@ -24,7 +21,7 @@ double shownMoney(const nlohmann::json& takeoff) {
 
 } // namespace
 
-TEST(ZOLDiffCommand, ExitCodesSayWhetherTheJobsDiffer) {
+TEST(ZOLDiffCommand, ExitCodesSayWhetherTheJobsDifferAndTheFiguresAgreeWithTheTakeoffs) {
     TempFolder folder;
     const std::string changed = folder / "changed.zol";
     TempFolder::write(changed, longerBasement(sampleHouseText()));
@@ -48,19 +45,17 @@ TEST(ZOLDiffCommand, ExitCodesSayWhetherTheJobsDiffer) {
         EXPECT_NE(result.out.find(c.inOut), std::string::npos) << result.out;
         EXPECT_NE(result.err.find(c.inErr), std::string::npos) << result.err;
     }
-}
 
-TEST(ZOLDiffCommand, ALongerWallAndAWindowAgreeWithTheTwoTakeoffs) {
-    TempFolder folder;
-    const std::string changed = folder / "changed.zol";
-    TempFolder::write(changed, longerBasement(basementWindowAdded(sampleHouseText())));
-    const auto diff = runZolest({"diff", kSample, changed, "--prices", kPrices, "--json"});
+    // A longer wall and a window agree with the two take-offs.
+    const std::string both = folder / "both.zol";
+    TempFolder::write(both, longerBasement(basementWindowAdded(sampleHouseText())));
+    const auto diff = runZolest({"diff", kSample, both, "--prices", kPrices, "--json"});
     ASSERT_EQ(diff.exitCode, 1) << diff.err;
     const auto order = nlohmann::json::parse(diff.out);
     const auto before =
         nlohmann::json::parse(runZolest({"takeoff", kSample, "--prices", kPrices, "--json"}).out);
     const auto after =
-        nlohmann::json::parse(runZolest({"takeoff", changed, "--prices", kPrices, "--json"}).out);
+        nlohmann::json::parse(runZolest({"takeoff", both, "--prices", kPrices, "--json"}).out);
 
     const auto& basement = order["worksheets"][0];
     EXPECT_EQ(basement["status"], "changed");
@@ -86,7 +81,7 @@ TEST(ZOLDiffCommand, ALongerWallAndAWindowAgreeWithTheTwoTakeoffs) {
                     before["worksheets"][0]["wall"]["getTotalPartsWeight"].get<double>(),
                 1e-6);
 
-    const auto csv = runZolest({"diff", kSample, changed, "--csv"}).out;
+    const auto csv = runZolest({"diff", kSample, both, "--csv"}).out;
     EXPECT_NE(csv.find("\r\nBasement,changed,input,Wall,Wall length,,168.00 ft,180.00 ft,\r\n"),
               std::string::npos)
         << csv;

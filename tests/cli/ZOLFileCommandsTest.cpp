@@ -1,10 +1,11 @@
 // zolest on real files: new, resave, takeoff, prices export and import, run as a user would.
 #include "io/ZOLPriceFileReader.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "support/AlertRecorder.h"
+#include "support/ChangedSample.h"
 #include "support/CliRunner.h"
+#include "support/GoldenFile.h"
 #include "support/ScopedTimeZone.h"
 #include "support/TempFolder.h"
 #include "support/TextDiff.h"
@@ -17,10 +18,6 @@
 
 namespace {
 
-const std::string kSample = std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol";
-const std::string kPrices = std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp";
-const std::string kTemplate = std::string(ZOL_SOURCE_DIR) + "/examples/job-summary.zci";
-const std::string kResaved = std::string(ZOL_TEST_DATA) + "/sample-house-resaved.zol";
 const std::string kOpenError = "There was an error opening the file.\n";
 const std::string kWrongFormat =
     "There was an error opening the file. The file may be corrupted or of the wrong format.\n";
@@ -42,22 +39,19 @@ TEST(ZOLFileCommands, NewAndResaveWriteWhatTheApplicationSaves) {
     // Byte for byte the golden new workbook, but for the date, which is now.
     const std::regex date("<ProjectDate>[^<]*</ProjectDate>");
     EXPECT_EQ(
-        firstDifference(std::regex_replace(
-                            TempFolder::contents(std::string(ZOL_TEST_DATA) + "/new-workbook.zol"),
-                            date, "DATE"),
+        firstDifference(std::regex_replace(goldenFile("new-workbook.zol"), date, "DATE"),
                         std::regex_replace(TempFolder::contents(folder / "job.zol"), date, "DATE")),
         "");
     EXPECT_EQ(runZolest({"new"}).exitCode, 2); // the output must be named
 
-    const auto run = runZolest({"resave", kSample, "-o", folder / "resaved.zol"});
-    ASSERT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(firstDifference(TempFolder::contents(kResaved),
+    EXPECT_EQ(outputOf({"resave", kSample, "-o", folder / "resaved.zol"}), "");
+    EXPECT_EQ(firstDifference(goldenFile("sample-house-resaved.zol"),
                               TempFolder::contents(folder / "resaved.zol")),
               "");
     // Over the file itself, when the user names it.
     TempFolder::write(folder / "again.zol", TempFolder::contents(kSample));
     ASSERT_EQ(runZolest({"resave", folder / "again.zol", "-o", folder / "again.zol"}).exitCode, 0);
-    EXPECT_EQ(TempFolder::contents(folder / "again.zol"), TempFolder::contents(kResaved));
+    EXPECT_EQ(TempFolder::contents(folder / "again.zol"), goldenFile("sample-house-resaved.zol"));
     EXPECT_EQ(folder.names(), (std::vector<std::string>{"again.zol", "job.zol", "resaved.zol"}));
 }
 
@@ -72,6 +66,16 @@ TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
     // A price file is XML but no workbook: the application would show a blank workbook.
     TempFolder::write(folder / "prices.zol", TempFolder::contents(kPrices));
     std::filesystem::create_directory(folder / "folder.zol");
+    // The price and template files of a command are named the same way.
+    TempFolder::write(folder / "cut.zp", TempFolder::contents(kPrices).substr(0, 500));
+    TempFolder::write(folder / "empty.zci", "");
+    std::vector<std::pair<std::vector<std::string>, std::string>> runs = {
+        {{"prices", "import", kSample, folder / "cut.zp", "-o", folder / "out.zol"},
+         kOpenError + folder / "cut.zp:19:12\n"},
+        {{"takeoff", kSample, "--prices", folder / "cut.zp"},
+         kOpenError + folder / "cut.zp:19:12\n"},
+        {{"takeoff", kSample, "--template", folder / "empty.zci"},
+         kWrongFormat + folder / "empty.zci\n"}};
     for (const auto& [file, message] : std::vector<std::pair<std::string, std::string>>{
              {"missing.zol", kOpenError + folder / "missing.zol: No such file or directory\n"},
              {"folder.zol", kOpenError + folder / "folder.zol: Is a directory\n"},
@@ -82,26 +86,12 @@ TEST(ZOLFileCommands, AFileThatCannotBeReadGivesTheAlertThePathAndExitCodeOne) {
         for (const auto& args : std::vector<std::vector<std::string>>{
                  {"resave", folder / file, "-o", folder / "out.zol"},
                  {"takeoff", folder / file},
-                 {"prices", "export", folder / file, "-o", folder / "out.zp"}}) {
-            const auto run = runZolest(args);
-            EXPECT_EQ(run.exitCode, 1) << file << " " << args[0];
-            EXPECT_EQ(run.err, message) << args[0];
-            EXPECT_EQ(run.out, "");
-        }
+                 {"prices", "export", folder / file, "-o", folder / "out.zp"}})
+            runs.emplace_back(args, message);
     }
-    // The price and template files of a command are named the same way.
-    TempFolder::write(folder / "cut.zp", TempFolder::contents(kPrices).substr(0, 500));
-    TempFolder::write(folder / "empty.zci", "");
-    for (const auto& [args, message] :
-         std::vector<std::pair<std::vector<std::string>, std::string>>{
-             {{"prices", "import", kSample, folder / "cut.zp", "-o", folder / "out.zol"},
-              kOpenError + folder / "cut.zp:19:12\n"},
-             {{"takeoff", kSample, "--prices", folder / "cut.zp"},
-              kOpenError + folder / "cut.zp:19:12\n"},
-             {{"takeoff", kSample, "--template", folder / "empty.zci"},
-              kWrongFormat + folder / "empty.zci\n"}}) {
+    for (const auto& [args, message] : runs) {
         const auto run = runZolest(args);
-        EXPECT_EQ(run.exitCode, 1) << args[0];
+        EXPECT_EQ(run.exitCode, 1) << args[0] << " " << args[1] << " " << args[2];
         EXPECT_EQ(run.err, message);
         EXPECT_EQ(run.out, "");
     }
@@ -123,10 +113,7 @@ TEST(ZOLFileCommands, ASaveThatFailsLeavesNothingBehind) {
 }
 
 TEST(ZOLFileCommands, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
-    const auto run = runZolest({"takeoff", kSample, "--json"});
-    ASSERT_EQ(run.exitCode, 0) << run.err;
-    EXPECT_EQ(run.err, "");
-    const auto json = nlohmann::json::parse(run.out);
+    const auto json = nlohmann::json::parse(outputOf({"takeoff", kSample, "--json"}));
     EXPECT_EQ(keys(json), (std::set<std::string>{"worksheets", "getTotalGrossSquareFeet",
                                                  "getTotalNetSquareFeet", "customItems"}));
     ASSERT_EQ(json["worksheets"].size(), 3u);
@@ -154,12 +141,12 @@ TEST(ZOLFileCommands, TakeoffJsonHoldsEveryWorksheetRecordAndTheJobSummary) {
 
 TEST(ZOLFileCommands, PricesMoveAsThePriceWindowMovesThem) {
     // The shadowed workbook prices and the template's lines: see zolest report's tests.
-    const auto text = runZolest({"takeoff", kSample, "--prices", kPrices, "--template", kTemplate});
-    ASSERT_EQ(text.exitCode, 0) << text.err;
+    const std::string text =
+        outputOf({"takeoff", kSample, "--prices", kPrices, "--template", kTemplate});
     for (const std::string expected :
          {"==== Worksheet: Basement ====", "==== Worksheet: Garage ====",
           "Total gross square feet of wall", "Zol Blocks Package", "Building permit"})
-        EXPECT_NE(text.out.find(expected), std::string::npos) << expected;
+        EXPECT_NE(text.find(expected), std::string::npos) << expected;
 
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     TempFolder folder;
@@ -167,16 +154,13 @@ TEST(ZOLFileCommands, PricesMoveAsThePriceWindowMovesThem) {
     ASSERT_EQ(
         runZolest({"prices", "import", kSample, kPrices, "-o", folder / "priced.zol"}).exitCode, 0);
     ScopedAlertRecorder alerts;
-    const auto opened = ZOLWorkbookReader::readWorkbookData(TempFolder::contents(kSample));
-    ASSERT_TRUE(opened.ok());
+    const auto opened = openedWorkbook(sampleHouseText());
     // Exported as opened: the defaults, then the prices the file holds.
-    EXPECT_EQ(firstDifference(opened.workbook->pricingData()->getFullXMLString(),
+    EXPECT_EQ(firstDifference(opened->pricingData()->getFullXMLString(),
                               TempFolder::contents(folder / "out.zp")),
               "");
     // Imported: exactly the price file's items.
-    ZOLPriceFileReader::readPriceData(TempFolder::contents(kPrices),
-                                      *opened.workbook->pricingData());
-    EXPECT_EQ(firstDifference(opened.workbook->getXMLString(),
-                              TempFolder::contents(folder / "priced.zol")),
+    ZOLPriceFileReader::readPriceData(TempFolder::contents(kPrices), *opened->pricingData());
+    EXPECT_EQ(firstDifference(opened->getXMLString(), TempFolder::contents(folder / "priced.zol")),
               "");
 }

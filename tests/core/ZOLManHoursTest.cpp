@@ -23,7 +23,7 @@ const CodeTexts kFilled = {{70, "2450.5"}, {71, "14"},       {72, "180.25"}, {73
                            {78, "4"},      {79, "32.75"},    {80, "4"}};
 } // namespace
 
-TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
+TEST(ZOLManHourCalculator, FreshRecordRatingScalesAtTheirBandEdgesAndTheRateTable) {
     ZOLManHours h; // a crew of 6, 8 feet high, nothing else
     EXPECT_EQ(h.getCornersAndTsRating() + h.getLinearFeetCorbelCurbTaperedRating() +
                   h.getSquareFeetOfOpeningsRating(),
@@ -34,9 +34,8 @@ TEST(ZOLManHours, FreshRecordRatesTwentySevenAndNeedsNoHours) {
     EXPECT_EQ(h.getTotalProjectRating(), 27);
     EXPECT_EQ(h.getManHourRate(), 0.08);
     EXPECT_EQ(h.getHoursToComplete() + h.getDaysToComplete(), 0.0);
-}
 
-TEST(ZOLManHourCalculator, RatingScalesAtTheirBandEdges) {
+    // Rating scales at their band edges.
     const Band sqFt[] = {{6000, 0, 1}, {5999.9, 0, 2}, {4000, 0, 2},  {3999.99, 0, 3},
                          {2000, 0, 3}, {1000, 0, 4},   {999.99, 0, 5}};
     for (const Band& x : sqFt)
@@ -66,10 +65,9 @@ TEST(ZOLManHourCalculator, RatingScalesAtTheirBandEdges) {
     for (const Band& x : crew)
         EXPECT_EQ(Calc::getCrewSizeRatingWithCrewSize(static_cast<int32_t>(x.a), x.b), x.rating)
             << x.a << " / " << x.b;
-}
 
-TEST(ZOLManHourCalculator, RateTableByTotalRating) {
-    // Steps of two ratings, each at its first entry; 0.005 a step up to 35, then uneven.
+    // The rate table by total rating: steps of two ratings, each at its first entry; 0.005 a step
+    // up to 35, then uneven.
     const std::pair<int32_t, double> table[] = {
         {15, 0.05}, {16, 0.055}, {17, 0.055}, {18, 0.06},  {20, 0.065}, {22, 0.07}, {24, 0.075},
         {26, 0.08}, {28, 0.085}, {30, 0.09},  {32, 0.095}, {34, 0.1},   {35, 0.1},  {36, 0.11},
@@ -78,17 +76,7 @@ TEST(ZOLManHourCalculator, RateTableByTotalRating) {
         EXPECT_EQ(Calc::getManHourRateWithRating(rating), rate) << "rating " << rating;
 }
 
-TEST(ZOLManHourCalculator, HoursAndDaysInBothForms) {
-    EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0); // no crew
-
-    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(100.5, 1), 101);
-    // Whole days of 8.5 hours each for the crew, at least one.
-    const int32_t days[][3] = {{0, 6, 1}, {51, 6, 1}, {52, 6, 2}};
-    for (const auto& [hours, crew, whole] : days)
-        EXPECT_EQ(Calc::calculateDaysWithHours(hours, crew), whole) << hours << " / " << crew;
-}
-
-TEST(ZOLManHours, TotalAddsEveryRatingOnce) {
+TEST(ZOLManHours, TotalAddsEveryRatingOnceAndGivesHoursAndDaysInBothForms) {
     // Through the file's codes: 1000 sq ft of wall (rates 4, and a crew of 6 rates 5), 45 corners
     // and Ts (3), 90 sq ft of openings (5), 150 ft of corbel, curb and taper (7), 20 ft high (8),
     // intense rebar (9), a highly experienced crew (2), ideal site (3) and 11 other turns.
@@ -102,6 +90,14 @@ TEST(ZOLManHours, TotalAddsEveryRatingOnce) {
     EXPECT_EQ(job.getTotalProjectRating(), 30);
     EXPECT_NEAR(job.getHoursToComplete(), 90.0, 1e-9);
     EXPECT_NEAR(job.getDaysToComplete(), 90.0 / 51.0, 1e-12);
+    EXPECT_EQ(Calc::getDaysToCompleteWithRating(30, 1000, 0), 0.0); // no crew
+
+    // The whole-number forms: man hours rounded up, whole days of 8.5 hours each for the crew,
+    // at least one.
+    EXPECT_EQ(Calc::calculateManHoursWithGrossSqFt(100.5, 1), 101);
+    const int32_t days[][3] = {{0, 6, 1}, {51, 6, 1}, {52, 6, 2}};
+    for (const auto& [hours, crew, whole] : days)
+        EXPECT_EQ(Calc::calculateDaysWithHours(hours, crew), whole) << hours << " / " << crew;
 }
 
 TEST(ZOLManHourCalculator, JudgementListsConvertBetweenIndexRatingAndWord) {

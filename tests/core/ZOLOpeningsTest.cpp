@@ -18,7 +18,7 @@ std::shared_ptr<ZOLOpening> row(int32_t count, double width, double height, bool
 }
 } // namespace
 
-TEST(ZOLOpenings, RowAreaPerimeterAndBuck) {
+TEST(ZOLOpenings, RowAreaPerimeterAndBuckAndTheListsTotals) {
     ZOLOpening fresh;
     EXPECT_EQ(fresh.rowNumber() + fresh.numberOfOpenings(), 0);
     EXPECT_TRUE(fresh.useSill());
@@ -38,9 +38,8 @@ TEST(ZOLOpenings, RowAreaPerimeterAndBuck) {
                       none->getTotalLinearFeetOfBuck(),
                   0.0);
     EXPECT_EQ(ZOLOpeningsCalculator::calculateLFZolBuckWithOpeningHeight(0.0, 36, true), 0.0);
-}
 
-TEST(ZOLOpenings, ListTotalsAndAppending) {
+    // The list's totals, and appending.
     ZOLOpenings openings;
     EXPECT_EQ(openings.getTotalSquareFeet() + openings.getTotalLinearFeetOfBuck(), 0.0);
     openings.addOpeningObject(row(2, 36, 48));

@@ -24,7 +24,7 @@ TEST(ZOLPricing, ClipsSticksAndExtendersMatchAnySizeButPravexAndPelmoDoNot) {
     EXPECT_EQ(pricing.priceItems().size(), 6U);
 }
 
-TEST(ZOLPricing, LabelsAndReaderCodes) {
+TEST(ZOLPricing, LabelsReaderCodesAndBothFileForms) {
     EXPECT_EQ(ZOLPriceItem(6, 0, 0.0).getPartText(), "6\" Straight Block");
     EXPECT_EQ(ZOLPriceItem(12, 0.0).getPartText(), "4\" Extender");
     EXPECT_EQ(ZOLPriceItem(15, 0.0).getPartText(), "12\" Pravex");
@@ -36,9 +36,8 @@ TEST(ZOLPricing, LabelsAndReaderCodes) {
     EXPECT_DOUBLE_EQ(item.price(), 31.75);
     item.setValue(std::string("10"), 81); // digits are no size word: the 8-inch default
     EXPECT_EQ(item.partSize(), 8);
-}
 
-TEST(ZOLPricing, BothFileFormsWriteAccessoriesUnderTwelveAndTheDefaultListInOrder) {
+    // Both file forms write accessories under twelve, and the default list in order.
     ZOLPricing pricing;
     pricing.setPriceItems({std::make_shared<ZOLPriceItem>(6, 9, 18.257),
                            std::make_shared<ZOLPriceItem>(8, 13, 0.09)});

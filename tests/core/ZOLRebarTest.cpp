@@ -19,7 +19,7 @@ const CodeTexts kFilled = {{29, "Metric"}, {30, "123.5"}, {31, "2"},  {32, "3"},
 
 // Laps, spacings and dowel lengths are whole feet truncated toward zero; a wall is laid 20 feet
 // to a lap, so a 30-foot wall carries 1.5 laps per row.
-TEST(ZOLRebarCalculator, LapsSpacingsAndDowelsCountWholeFeetTruncated) {
+TEST(ZOLRebarCalculator, LapsSpacingsAndDowelsCountWholeFeetTruncatedAndUnderAFootIsInfinite) {
     struct Case {
         double length;
         int32_t inches, other;
@@ -49,9 +49,8 @@ TEST(ZOLRebarCalculator, LapsSpacingsAndDowelsCountWholeFeetTruncated) {
     for (const Case& c : dowels)
         EXPECT_DOUBLE_EQ(Calc::calculateDowelsWithWallLength(c.length, c.inches, c.other), c.feet)
             << c.inches << " / " << c.other;
-}
 
-TEST(ZOLRebarCalculator, SpacingUnderAFootIsInfiniteAndTheSizeListsAreFiveAndFour) {
+    // A spacing under a foot is infinite; the size lists are five and four long.
     for (int32_t spacing = 1; spacing <= 11; ++spacing) {
         SCOPED_TRACE(spacing);
         EXPECT_EQ(Calc::calculateVerticalRebarWithWallLength(100, spacing, 8), INFINITY);
@@ -67,15 +66,9 @@ TEST(ZOLRebarCalculator, SpacingUnderAFootIsInfiniteAndTheSizeListsAreFiveAndFou
 TEST(ZOLRebar, EachLengthReadsItsOwnFieldsOnEveryCall) {
     // 100 feet of wall 10 high: two rows lapped 30", one lapped 48", verticals every 24",
     // 36" dowels every 48".
-    ZOLRebar r = readRecord<ZOLRebar>({{30, "100"},
-                                       {37, "10"},
-                                       {32, "2"},
-                                       {33, "30"},
-                                       {35, "1"},
-                                       {36, "48"},
-                                       {39, "24"},
-                                       {41, "48"},
-                                       {42, "36"}});
+    const CodeTexts bars = {{30, "100"}, {37, "10"}, {32, "2"},  {33, "30"}, {35, "1"},
+                            {36, "48"},  {39, "24"}, {41, "48"}, {42, "36"}};
+    ZOLRebar r = readRecord<ZOLRebar>(bars);
     EXPECT_DOUBLE_EQ(r.getHorizontalLength1(), 220.0);
     EXPECT_DOUBLE_EQ(r.getHorizontalLength2(), 120.0);
     EXPECT_DOUBLE_EQ(r.getVerticalLength(), 500.0);

@@ -30,7 +30,7 @@ TEST(ZOLNumeric, DoubleToIntSaturatesAndDivisionByNothingIsNothing) {
     EXPECT_EQ(ZOLNumeric::wrapDiv(7, 0), 0);
 }
 
-TEST(ZOLText, LeadingNumbersReadWhatTheTextStartsWith) {
+TEST(ZOLText, LeadingNumbersReadWhatTheTextStartsWithAsTheNearestDouble) {
     const char* texts[] = {"42", "  -17 corners", "+8", "12.9", "abc", "", "- 5"};
     const int32_t ints[] = {42, -17, 8, 12, 0, 0, 0};
     for (int i = 0; i < 7; ++i)
@@ -45,11 +45,9 @@ TEST(ZOLText, LeadingNumbersReadWhatTheTextStartsWith) {
         {"true", 0.0},       {"1e999", INFINITY}, {"-1e999", -INFINITY}, {"1e-999", 0.0}};
     for (const auto& [text, value] : doubles)
         EXPECT_EQ(ZOLText::leadingDouble(text), value) << text;
-}
 
-// Short decimals take a quicker way than longer ones; on either side of where the two meet, a
-// text reads as the nearest double, the same as the general number parser gives.
-TEST(ZOLText, LeadingDecimalsAreTheNearestDoubleOnBothSidesOfTheQuickWay) {
+    // Short decimals take a quicker way than longer ones; on either side of where the two meet,
+    // a text reads as the nearest double, the same as the general number parser gives.
     for (const char* text :
          {"0.1", "0.3", "9.334000", "120.500000", "9007199254740991", "9007199254740993",
           "900719925474099.3", "1.0000000000000000000001", "0.00000000000000000000001",
@@ -62,14 +60,13 @@ TEST(ZOLText, LeadingDecimalsAreTheNearestDoubleOnBothSidesOfTheQuickWay) {
     EXPECT_TRUE(std::signbit(ZOLText::leadingDouble("-0.000")));
 }
 
-TEST(ZOLText, BooleanTextFollowsTheFirstCharacter) {
+TEST(ZOLText, BooleanTextFollowsTheFirstCharacterAndEntryFieldsKeepWhatReadsAsANumber) {
     for (const char* yes : {"true", "True", "YES", "y", "  t", "1", "9", "7 days"})
         EXPECT_TRUE(ZOLText::boolValue(yes)) << yes;
     for (const char* no : {"false", "", "0", "no", "(null)", " ", "-1", "x"})
         EXPECT_FALSE(ZOLText::boolValue(no)) << no;
-}
 
-TEST(ZOLText, EntryFieldKeystrokeRule) {
+    // The entry fields' keystroke rule.
     EXPECT_EQ(ZOLText::entryFieldText(""), std::nullopt);
     const std::pair<const char*, const char*> cleaned[] = {
         {"12a", "12"},    {"a", "0"},   {"1.2.3", "1.2.3"}, {"-3", "-3"},

@@ -121,18 +121,17 @@ TEST_F(ZOLSummaryItems, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeI
         workbook.getWallSummaryItemForWalls({walls()[1]}, workbook.pricingData(), false, true)
             ->cost(),
         1807.0 + 3 * 250 * 0.09, 1e-9);
-}
 
-TEST_F(ZOLSummaryItems, AccessoryWithoutPriceItemIsChargedAtThePriceBeforeIt) {
+    // An accessory without a price item is charged at the price before it.
     auto pricing = std::make_shared<ZOLPricing>();
     setPrice(*pricing, 11, 10, 4.80); // the 10" buck
     auto items = pricing->priceItems();
     std::erase_if(items, [](const auto& item) { return item->partType() >= 12; });
     pricing->setPriceItems(items);
-    const Line line = workbook.getWallSummaryItemForWalls(walls(), pricing, false, true);
     // The 10" buck is the only priced part before an accessory pass (6" and 8" buck cost
     // nothing), so the accessories are charged once, at its price.
-    EXPECT_NEAR(line->cost(), 0.0 + 4.80 * (53 + 1000 + 465), 1e-9);
+    EXPECT_NEAR(workbook.getWallSummaryItemForWalls(walls(), pricing, false, true)->cost(),
+                0.0 + 4.80 * (53 + 1000 + 465), 1e-9);
 }
 
 TEST_F(ZOLSummaryItems, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
@@ -209,7 +208,7 @@ TEST_F(ZOLSummaryItems, ConcreteLinesPerUnitSystemAndPour) {
     EXPECT_EQ(linesOf(workbook, "Concrete")[0]->quantity(), 0.0);
 }
 
-TEST_F(ZOLSummaryItems, TiltAndManHourLinesAreUpdatedNotDuplicated) {
+TEST_F(ZOLSummaryItems, TiltAndManHourLinesAreUpdatedNotDuplicatedAndAverageTheRate) {
     // 100 by 10 ft of tilt-up (190 panels, 570 inserts); 2400 sq ft at $30 and 800 at $45.
     *sheet(0).tiltData() = readRecord<ZOLTilt>({{43, "10"}, {44, "100"}});
     *sheet(0).manHourData() = readRecord<ZOLManHours>({{70, "2400"}, {79, "30"}});
@@ -232,19 +231,16 @@ TEST_F(ZOLSummaryItems, TiltAndManHourLinesAreUpdatedNotDuplicated) {
     sheet(0).tiltData()->setWallLength(0.0);
     workbook.generateCustomItems();
     expectLine(tilt, "Tilt", "Quarto Tilt Parts", "Parts", 0.0, 1.15, false);
-}
 
-TEST_F(ZOLSummaryItems, LabourRateAveragesWithoutDividingByNothing) {
-    // The line for two worksheets' labour, given each one's square feet and rate.
-    auto summary = [](double sqft1, double cost1, double sqft2, double cost2) {
-        std::vector<std::shared_ptr<ZOLManHours>> records;
-        for (const auto& [sqft, cost] : {std::pair{sqft1, cost1}, {sqft2, cost2}}) {
-            records.push_back(std::make_shared<ZOLManHours>());
-            records.back()->setSquareFeetOfWall(sqft);
-            records.back()->setLaborCost(cost);
-        }
-        return ZOLWorkbook::getManHourSummaryItemWithManHours(records, true);
+    // The labour rate averages without dividing by nothing: the line for two worksheets' labour,
+    // given each one's square feet and rate. (Codes 70 the square feet, 79 the rate.)
+    auto summary = [](const CodeTexts& first, const CodeTexts& second) {
+        return ZOLWorkbook::getManHourSummaryItemWithManHours(
+            {std::make_shared<ZOLManHours>(readRecord<ZOLManHours>(first)),
+             std::make_shared<ZOLManHours>(readRecord<ZOLManHours>(second))},
+            true);
     };
-    EXPECT_EQ(summary(2400, 0, 800, 0)->cost(), 0.0);
-    expectLine(summary(0, 30, 0, 45), "ManHours", "Total Man Hours", "Hours", 0.0, 0.0, false);
+    EXPECT_EQ(summary({{70, "2400"}, {79, "0"}}, {{70, "800"}, {79, "0"}})->cost(), 0.0);
+    expectLine(summary({{70, "0"}, {79, "30"}}, {{70, "0"}, {79, "45"}}), "ManHours",
+               "Total Man Hours", "Hours", 0.0, 0.0, false);
 }

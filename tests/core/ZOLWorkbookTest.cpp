@@ -21,7 +21,7 @@ std::vector<std::string> names(const ZOLWorkbook& workbook) {
 
 } // namespace
 
-TEST(ZOLWorkbook, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorksheet) {
+TEST(ZOLWorkbook, NewWorkbookSavesAsTheDefaultFileClearsRefusesTakenNamesAndEscapesMarkup) {
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     ScopedClock clock(kMay2);
     ZOLWorkbook workbook;
@@ -42,18 +42,30 @@ TEST(ZOLWorkbook, NewWorkbookSavesAsTheDefaultFileAndClearedOneHasNoWorksheet) {
     EXPECT_EQ(sheet.name(), "");
     EXPECT_EQ(sheet.wallData(), wall);
     EXPECT_EQ(wall->wallLength(), 0.0);
-}
 
-TEST(ZOLWorkbook, TakenNamesAreRefusedWithTheAlert) {
+    // Taken names are refused with the alert.
     ScopedAlertRecorder alerts;
-    ZOLWorkbook workbook;
+    ZOLWorkbook named;
     for (const char* name : {"Worksheet 1", "worksheet 1", "Garage", "Garage"})
-        workbook.addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
-    EXPECT_EQ(names(workbook), (std::vector<std::string>{"Worksheet 1", "worksheet 1", "Garage"}));
+        named.addWorksheetsObject(std::make_shared<ZOLWorksheet>(name));
+    EXPECT_EQ(names(named), (std::vector<std::string>{"Worksheet 1", "worksheet 1", "Garage"}));
     ASSERT_EQ(alerts->alerts.size(), 2U);
     EXPECT_EQ(alerts->alerts[0].message, "A worksheet with that name already exists.");
     EXPECT_EQ(alerts->alerts[0].informativeText, "");
     EXPECT_EQ(alerts->alerts[0].buttons, std::vector<std::string>{"OK"});
+
+    // Project texts are written with markup escaped.
+    ZOLWorkbook texts;
+    texts.setProjectName(std::string("Smith & Sons <Lakeside>"));
+    texts.setClientName(std::nullopt);
+    texts.setProjectDate(std::nullopt);
+    texts.setRoundToFullBundles(true);
+    texts.setSummarizeRebar(false);
+    // Without worksheets or prices the whole file is the project header.
+    texts.setWorksheets({});
+    texts.pricingData()->setPriceItems({});
+    expectGoldenFile("xml/workbook-texts.xml", texts.getXMLString());
+    // The template file's frame around the lines is pinned by the example template.
 }
 
 TEST(ZOLWorkbook, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
@@ -75,18 +87,4 @@ TEST(ZOLWorkbook, WorkbookWithoutWorksheetsTotalsNothingAndKeepsItsLines) {
     EXPECT_EQ(workbook.getTotalGrossSquareFeet(), 0.0);
     EXPECT_NE(workbook.getCustomItemTemplateXMLString().find("<Name>Zol Blocks Package</Name>"),
               std::string::npos);
-}
-
-TEST(ZOLWorkbook, ProjectTextsAreWrittenWithMarkupEscaped) {
-    ZOLWorkbook workbook;
-    workbook.setProjectName(std::string("Smith & Sons <Lakeside>"));
-    workbook.setClientName(std::nullopt);
-    workbook.setProjectDate(std::nullopt);
-    workbook.setRoundToFullBundles(true);
-    workbook.setSummarizeRebar(false);
-    // Without worksheets or prices the whole file is the project header.
-    workbook.setWorksheets({});
-    workbook.pricingData()->setPriceItems({});
-    expectGoldenFile("xml/workbook-texts.xml", workbook.getXMLString());
-    // The template file's frame around the lines is pinned by the example template.
 }

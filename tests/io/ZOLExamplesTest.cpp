@@ -3,11 +3,11 @@
 // (The new workbook's file is pinned by ZOLWorkbookTest.)
 #include "io/ZOLPriceFileReader.h"
 #include "io/ZOLTemplateReader.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "support/AlertRecorder.h"
+#include "support/ChangedSample.h"
 #include "support/GoldenFile.h"
 #include "support/ScopedTimeZone.h"
 #include "support/TempFolder.h"
@@ -17,8 +17,6 @@
 
 namespace {
 
-const std::string kExamples = std::string(ZOL_SOURCE_DIR) + "/examples/";
-
 void replaceAll(std::string& text, const std::string& from, const std::string& to) {
     for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size()))
         text.replace(at, from.size(), to);
@@ -26,13 +24,11 @@ void replaceAll(std::string& text, const std::string& from, const std::string& t
 
 } // namespace
 
-TEST(ZOLExamples, TheSampleHouseResavesWithTheChangesOpeningMakes) {
+TEST(ZOLExamples, TheExamplesSaveAgainAsTheyWereOrWithTheChangesOpeningMakes) {
     ScopedTimeZone zone(ScopedTimeZone::kCentral);
     ScopedAlertRecorder alerts;
-    const std::string saved = TempFolder::contents(kExamples + "sample-house.zol");
-    const auto opened = ZOLWorkbookReader::readWorkbookData(saved);
-    ASSERT_TRUE(opened.ok());
-    const std::string resaved = opened.workbook->getXMLString();
+    const std::string saved = sampleHouseText();
+    const std::string resaved = openedWorkbook(saved)->getXMLString();
     expectGoldenFile("sample-house-resaved.zol", resaved);
 
     // The differences, and nothing else: the default prices come first, the fields that are
@@ -47,27 +43,23 @@ TEST(ZOLExamples, TheSampleHouseResavesWithTheChangesOpeningMakes) {
     replaceAll(expected, "<DistributorName>Prairie ICF Supply<", "<DistributorName><");
     EXPECT_EQ(firstDifference(expected, resaved), "");
     // Each further open adds the defaults once more.
-    const auto again = ZOLWorkbookReader::readWorkbookData(resaved);
-    ASSERT_TRUE(again.ok());
-    EXPECT_EQ(again.workbook->pricingData()->priceItems().size(), 44u * 3);
+    EXPECT_EQ(openedWorkbook(resaved)->pricingData()->priceItems().size(), 44u * 3);
     EXPECT_TRUE(alerts->alerts.empty());
-}
 
-TEST(ZOLExamples, ThePriceFileAndTheTemplateReadAndSaveUnchanged) {
-    ScopedAlertRecorder alerts;
-    const std::string prices = TempFolder::contents(kExamples + "prices.zp");
+    // The price file and the template read and save unchanged.
+    const std::string prices = TempFolder::contents(kPrices);
     ZOLPricing pricing;
     ASSERT_EQ(ZOLPriceFileReader::readPriceData(prices, pricing), ZOLReadStatus::Read);
     EXPECT_EQ(firstDifference(prices, pricing.getFullXMLString()), "");
 
-    const std::string lines = TempFolder::contents(kExamples + "job-summary.zci");
+    const std::string lines = TempFolder::contents(kTemplate);
     ZOLWorkbook workbook;
     ASSERT_EQ(ZOLTemplateReader::readTemplateData(lines, workbook), ZOLReadStatus::Read);
     // An empty text is no text at all: the user lines' empty calculator type comes back absent
     // and is saved as "(null)".
-    std::string expected = lines;
-    replaceAll(expected, "<CalculatorType></", "<CalculatorType>(null)</");
-    ASSERT_NE(expected, lines);
-    EXPECT_EQ(firstDifference(expected, workbook.getCustomItemTemplateXMLString()), "");
+    std::string expectedLines = lines;
+    replaceAll(expectedLines, "<CalculatorType></", "<CalculatorType>(null)</");
+    ASSERT_NE(expectedLines, lines);
+    EXPECT_EQ(firstDifference(expectedLines, workbook.getCustomItemTemplateXMLString()), "");
     EXPECT_TRUE(alerts->alerts.empty());
 }

@@ -17,7 +17,7 @@
 
 namespace fs = std::filesystem;
 
-TEST(ZOLReadCheck, TurnsAwayWhatIsNotText) {
+TEST(ZOLReadCheck, TurnsAwayWhatIsNotTextAndFilesAreReadUpToTheLimit) {
     // Whether the text is the right XML is the reader's business.
     for (const std::string& text :
          {std::string("<Workbook/>"), std::string("\xEF\xBB\xBF<Workbook/>"),
@@ -27,9 +27,8 @@ TEST(ZOLReadCheck, TurnsAwayWhatIsNotText) {
                                      std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16),
                                      std::string("<Workbook>\0</Workbook>", 22)})
         EXPECT_FALSE(ZOLReadCheck::acceptsData(bytes)) << bytes;
-}
 
-TEST(ZOLFileBytes, ReadsWholeFilesAndStopsPastTheLimit) {
+    // Whole files are read, and reading stops past the limit.
     TempFolder folder;
     std::ofstream(folder / "a.zol", std::ios::binary) << "0123456789";
     EXPECT_EQ(ZOLFileBytes::read(folder / "a.zol", 100), "0123456789");
@@ -37,7 +36,7 @@ TEST(ZOLFileBytes, ReadsWholeFilesAndStopsPastTheLimit) {
     // The system's reasons for a missing file or a folder: see zolest's file commands.
 }
 
-TEST(ZOLAtomicFile, WritesNewFilesAndReplacesOldOnesWhole) {
+TEST(ZOLAtomicFile, WritesNewFilesReplacesOldOnesWholeAndAFailedSaveLeavesNoHalfFile) {
     TempFolder folder;
     const std::string path = folder / "job.zol";
     ASSERT_TRUE(ZOLAtomicFile::write(path, "first"));
@@ -55,14 +54,13 @@ TEST(ZOLAtomicFile, WritesNewFilesAndReplacesOldOnesWhole) {
     ASSERT_TRUE(ZOLAtomicFile::write(folder / "link.zol", "third"));
     EXPECT_TRUE(fs::is_symlink(folder / "link.zol"));
     EXPECT_EQ(TempFolder::contents(path), "third");
-}
 
-TEST(ZOLAtomicFile, AFailedSaveLeavesNoHalfFileAndNoTemporaryFile) {
-    TempFolder folder;
+    // A failed save leaves no half file and no temporary file.
+    TempFolder failed;
     std::string error;
     // A destination that is a folder, or in none: see zolest's file commands.
     // The disk fills up part-way through the write (here: the file size limit is reached).
-    std::ofstream(folder / "kept.zol") << "old";
+    std::ofstream(failed / "kept.zol") << "old";
     const pid_t child = fork();
     if (child == 0) {
         signal(SIGXFSZ, SIG_IGN);
@@ -70,23 +68,23 @@ TEST(ZOLAtomicFile, AFailedSaveLeavesNoHalfFileAndNoTemporaryFile) {
             16, 16
         };
         setrlimit(RLIMIT_FSIZE, &limit);
-        const bool written = ZOLAtomicFile::write(folder / "kept.zol", std::string(4096, 'x'));
+        const bool written = ZOLAtomicFile::write(failed / "kept.zol", std::string(4096, 'x'));
         _exit(written ? 1 : 0);
     }
     int status = -1;
     waitpid(child, &status, 0);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
-    EXPECT_EQ(TempFolder::contents(folder / "kept.zol"), "old");
-    EXPECT_EQ(folder.names(), std::vector<std::string>{"kept.zol"});
+    EXPECT_EQ(TempFolder::contents(failed / "kept.zol"), "old");
+    EXPECT_EQ(failed.names(), std::vector<std::string>{"kept.zol"});
     // A folder the user may not write in (the check means nothing when running as root).
     if (::geteuid() != 0) {
-        fs::create_directory(folder / "locked");
-        std::ofstream(folder / "locked/a.zol") << "old";
-        fs::permissions(folder / "locked", fs::perms::owner_read | fs::perms::owner_exec);
-        EXPECT_FALSE(ZOLAtomicFile::write(folder / "locked/a.zol", "new", &error));
+        fs::create_directory(failed / "locked");
+        std::ofstream(failed / "locked/a.zol") << "old";
+        fs::permissions(failed / "locked", fs::perms::owner_read | fs::perms::owner_exec);
+        EXPECT_FALSE(ZOLAtomicFile::write(failed / "locked/a.zol", "new", &error));
         EXPECT_EQ(error, "Permission denied");
-        EXPECT_EQ(TempFolder::contents(folder / "locked/a.zol"), "old");
-        fs::permissions(folder / "locked", fs::perms::owner_all);
-        EXPECT_EQ(fs::directory_iterator(folder / "locked")->path().filename(), "a.zol");
+        EXPECT_EQ(TempFolder::contents(failed / "locked/a.zol"), "old");
+        fs::permissions(failed / "locked", fs::perms::owner_all);
+        EXPECT_EQ(fs::directory_iterator(failed / "locked")->path().filename(), "a.zol");
     }
 }

@@ -25,7 +25,7 @@ ZOLPricing pricedList() {
 
 } // namespace
 
-TEST(ZOLPriceFileReader, APriceFileReplacesTheListWithExactlyItsItems) {
+TEST(ZOLPriceFileReader, APriceFileReplacesTheListWithExactlyItsItemsOrChangesNothing) {
     ScopedAlertRecorder alerts;
     // A priced list replaces whatever the window held, every price kept, the last one too.
     ZOLPricing target;
@@ -50,12 +50,10 @@ TEST(ZOLPriceFileReader, APriceFileReplacesTheListWithExactlyItsItems) {
     EXPECT_EQ(target.priceItems().back()->partType(), 11);
     EXPECT_DOUBLE_EQ(target.priceItems().back()->price(), 3.10);
     EXPECT_TRUE(alerts->alerts.empty());
-}
 
-TEST(ZOLPriceFileReader, AFileThatCannotBeReadWholeChangesNothing) {
-    ScopedAlertRecorder alerts;
+    // A file that cannot be read whole changes nothing.
     const std::string full = pricedList().getFullXMLString();
-    const std::string before = ZOLPricing().getFullXMLString();
+    const std::string defaults = ZOLPricing().getFullXMLString();
     // Cut the file after its third item: the alert, and the list as it was.
     std::size_t cut = 0;
     for (int i = 0; i < 3; ++i)
@@ -63,16 +61,15 @@ TEST(ZOLPriceFileReader, AFileThatCannotBeReadWholeChangesNothing) {
     ZOLPricing pricing;
     EXPECT_EQ(ZOLPriceFileReader::readPriceData(full.substr(0, cut + 40), pricing),
               ZOLReadStatus::ParseError);
-    EXPECT_EQ(pricing.getFullXMLString(), before);
+    EXPECT_EQ(pricing.getFullXMLString(), defaults);
     // A list longer than any real one fails the same way.
-    ZOLReadLimits limits;
-    limits.priceItems = 2;
-    EXPECT_EQ(ZOLPriceFileReader::readPriceData(full, pricing, limits), ZOLReadStatus::ParseError);
-    EXPECT_EQ(pricing.getFullXMLString(), before);
+    EXPECT_EQ(ZOLPriceFileReader::readPriceData(full, pricing, {.priceItems = 2}),
+              ZOLReadStatus::ParseError);
+    EXPECT_EQ(pricing.getFullXMLString(), defaults);
 
     for (const std::string& bytes : {std::string("PK\3\4\0\0", 6), std::string()})
         EXPECT_EQ(ZOLPriceFileReader::readPriceData(bytes, pricing), ZOLReadStatus::Refused);
-    EXPECT_EQ(pricing.getFullXMLString(), before);
+    EXPECT_EQ(pricing.getFullXMLString(), defaults);
     EXPECT_EQ(alerts->messages(),
               (std::vector<std::string>{kOpenError, kOpenError, kWrongFormat, kWrongFormat}));
 }

@@ -9,10 +9,9 @@
 
 #include <gtest/gtest.h>
 
-TEST(ZOLReadPosition, AWorkbookThatCannotBeReadSaysWhereItWentWrong) {
+TEST(ZOLReadPosition, AFileThatCannotBeReadSaysWhereItWentWrong) {
     ScopedAlertRecorder alerts;
-    ZOLReadLimits oneWorksheet;
-    oneWorksheet.worksheets = 1;
+    const ZOLReadLimits oneWorksheet{.worksheets = 1};
     std::string crowdedTag = "<Workbook";
     for (int i = 0; i < 300; ++i)
         crowdedTag += " a" + std::to_string(i) + "=\"1\"";
@@ -42,18 +41,16 @@ TEST(ZOLReadPosition, AWorkbookThatCannotBeReadSaysWhereItWentWrong) {
         EXPECT_EQ(result.errorPosition.line, c.line) << c.bytes;
         EXPECT_EQ(result.errorPosition.column, c.column) << c.bytes;
     }
-}
 
-TEST(ZOLReadPosition, PriceFilesAndTemplatesSayItWhenAsked) {
-    ScopedAlertRecorder alerts;
+    // Price files and templates say it when asked.
     ZOLPricing pricing;
     ZOLWorkbook workbook;
     ZOLReadPosition price, lines;
     EXPECT_EQ(ZOLPriceFileReader::readPriceData("<Pricing>\n<PriceItems><PriceItem><Price>1</Pri",
                                                 pricing, {}, &price),
               ZOLReadStatus::ParseError);
-    EXPECT_EQ(ZOLTemplateReader::readTemplateData("<CustomItems>\n\n<Items></CustomItems>", workbook,
-                                                  {}, &lines),
+    EXPECT_EQ(ZOLTemplateReader::readTemplateData("<CustomItems>\n\n<Items></CustomItems>",
+                                                  workbook, {}, &lines),
               ZOLReadStatus::ParseError);
     EXPECT_EQ((std::pair{price.line, price.column}), (std::pair{2, 37}));
     EXPECT_EQ((std::pair{lines.line, lines.column}), (std::pair{3, 22}));

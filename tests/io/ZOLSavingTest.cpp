@@ -2,12 +2,11 @@
 // replaced, the leftovers of a killed save, and the prices a workbook file was saved with.
 #include "io/ZOLFileSaver.h"
 #include "io/ZOLPriceFileReader.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLPriceItem.h"
 #include "model/ZOLPricing.h"
 #include "model/ZOLWorkbook.h"
 #include "support/AlertRecorder.h"
-#include "support/TempFolder.h"
+#include "support/ChangedSample.h"
 
 #include <gtest/gtest.h>
 
@@ -16,12 +15,6 @@
 
 namespace {
 const std::string kMarkup = "Lakeview & Co <\"North\"> & >";
-
-std::shared_ptr<ZOLWorkbook> reopen(const std::string& bytes) {
-    auto result = ZOLWorkbookReader::readWorkbookData(bytes);
-    EXPECT_TRUE(result.ok() && !result.noWorkbookElement);
-    return result.workbook;
-}
 } // namespace
 
 TEST(ZOLSaving, MarkupInTheProjectAndWorksheetTextsComesBack) {
@@ -37,7 +30,7 @@ TEST(ZOLSaving, MarkupInTheProjectAndWorksheetTextsComesBack) {
                          "&gt;</ProjectName>"),
               std::string::npos);
     EXPECT_TRUE(ZOLFileSaver::readsBack(bytes, ZOLFileKind::Workbook));
-    const auto opened = reopen(bytes);
+    const auto opened = openedWorkbook(bytes);
     EXPECT_EQ(opened->projectName(), kMarkup);
     EXPECT_EQ(opened->clientName(), "Smith & Sons");
     EXPECT_EQ(opened->worksheets()[0]->name(), "Garage \"B\" & <1>");
@@ -47,7 +40,7 @@ TEST(ZOLSaving, MarkupInTheProjectAndWorksheetTextsComesBack) {
     EXPECT_TRUE(alerts->alerts.empty());
 }
 
-TEST(ZOLSaving, BytesThatWouldNotOpenAgainNeverReplaceTheFile) {
+TEST(ZOLSaving, NeitherBytesThatWouldNotOpenAgainNorAKilledSavesLeftoversStay) {
     ScopedAlertRecorder alerts;
     TempFolder folder;
     const std::string path = folder / "job.zol";
@@ -66,18 +59,16 @@ TEST(ZOLSaving, BytesThatWouldNotOpenAgainNeverReplaceTheFile) {
     };
     for (const auto& [bytes, kind] : faults) {
         std::string error;
-        EXPECT_EQ(ZOLFileSaver::save(path, bytes, kind, &error),
-                  ZOLFileSaver::Outcome::Unreadable);
+        EXPECT_EQ(ZOLFileSaver::save(path, bytes, kind, &error), ZOLFileSaver::Outcome::Unreadable);
         EXPECT_EQ(error, ZOLFileSaver::kUnreadableReason);
         EXPECT_EQ(TempFolder::contents(path), good);
         EXPECT_EQ(folder.names(), std::vector<std::string>{"job.zol"});
     }
     // The checks raise no alert of their own.
     EXPECT_TRUE(alerts->alerts.empty());
-}
 
-TEST(ZOLSaving, ASaveRemovesWhatAKilledSaveOfTheSameFileLeft) {
-    TempFolder folder;
+    // A save removes what a killed save of the same file left.
+    TempFolder killed;
     // A process that has ended, one that runs (this one's parent), and this process itself.
     const pid_t gone = fork();
     if (gone == 0)
@@ -87,11 +78,11 @@ TEST(ZOLSaving, ASaveRemovesWhatAKilledSaveOfTheSameFileLeft) {
     const std::string live = ".job.zol.tmp-" + std::to_string(getppid()) + "-0";
     const std::string other = ".other.zol.tmp-" + std::to_string(gone) + "-0";
     for (const auto& name : {dead, live, other})
-        TempFolder::write(folder / name, "half");
-    ASSERT_EQ(ZOLFileSaver::save(folder / "job.zol", ZOLPricing().getFullXMLString(),
+        TempFolder::write(killed / name, "half");
+    ASSERT_EQ(ZOLFileSaver::save(killed / "job.zol", ZOLPricing().getFullXMLString(),
                                  ZOLFileKind::PriceList),
               ZOLFileSaver::Outcome::Saved);
-    EXPECT_EQ(folder.names(), (std::vector<std::string>{live, other, "job.zol"}));
+    EXPECT_EQ(killed.names(), (std::vector<std::string>{live, other, "job.zol"}));
 }
 
 TEST(ZOLSaving, TheSavedPricesBehindTheDefaultsAreOneCommandAway) {
@@ -100,7 +91,7 @@ TEST(ZOLSaving, TheSavedPricesBehindTheDefaultsAreOneCommandAway) {
     const auto& items = priced.pricingData()->priceItems();
     items[0]->setPrice(4.75);
     items.back()->setPrice(0.35);
-    auto opened = reopen(priced.getXMLString());
+    auto opened = openedWorkbook(priced.getXMLString());
     ZOLPricing& pricing = *opened->pricingData();
     EXPECT_EQ(pricing.savedItems().size(), items.size());
     EXPECT_TRUE(pricing.savedItemsChangePrices());
@@ -112,7 +103,7 @@ TEST(ZOLSaving, TheSavedPricesBehindTheDefaultsAreOneCommandAway) {
     EXPECT_FALSE(pricing.useSavedItems());
 
     // A workbook saved at zero prices brings nothing a user would want to use.
-    auto unpriced = reopen(ZOLWorkbook().getXMLString());
+    auto unpriced = openedWorkbook(ZOLWorkbook().getXMLString());
     EXPECT_FALSE(unpriced->pricingData()->savedItemsChangePrices());
     // A list whose front the user has priced is no longer the defaults: nothing lies behind it.
     EXPECT_FALSE(unpriced->pricingData()->savedItems().empty());

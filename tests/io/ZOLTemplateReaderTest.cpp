@@ -22,7 +22,7 @@ std::shared_ptr<ZOLCustomItem> line(const std::string& name, double cost, bool v
 
 } // namespace
 
-TEST(ZOLTemplateReader, ATemplateReplacesEveryLineGeneratedOnesIncluded) {
+TEST(ZOLTemplateReader, ATemplateReplacesEveryLineAndABrokenOneChangesNothing) {
     ScopedAlertRecorder alerts;
     ZOLWorkbook source;
     source.setCustomItems({line("Zol Blocks Package", 18250.4, true, "Wall"),
@@ -38,10 +38,8 @@ TEST(ZOLTemplateReader, ATemplateReplacesEveryLineGeneratedOnesIncluded) {
     EXPECT_EQ(names, (std::vector<std::string>{"Zol Blocks Package", "Crane rental",
                                                "Site cleanup & haul"}));
     EXPECT_TRUE(alerts->alerts.empty());
-}
 
-TEST(ZOLTemplateReader, AFileWithoutCustomItemsLeavesNoLinesAndABrokenOneChangesNothing) {
-    ScopedAlertRecorder alerts;
+    // A file without custom items leaves no lines; a broken one changes nothing.
     ZOLWorkbook workbook;
     workbook.setCustomItems({line("Crane rental", 450.0)});
     EXPECT_EQ(ZOLTemplateReader::readTemplateData(
@@ -50,14 +48,12 @@ TEST(ZOLTemplateReader, AFileWithoutCustomItemsLeavesNoLinesAndABrokenOneChanges
     EXPECT_TRUE(workbook.customItems().empty());
 
     workbook.setCustomItems({line("Crane rental", 450.0)});
-    ZOLWorkbook source;
     source.setCustomItems({line("A", 1), line("B", 1)});
-    const std::string text = source.getCustomItemTemplateXMLString();
-    ZOLReadLimits limits;
-    limits.customItems = 1;
+    const std::string two = source.getCustomItemTemplateXMLString();
+    const ZOLReadLimits limits{.customItems = 1};
     for (const auto& [bytes, status] : std::vector<std::pair<std::string, ZOLReadStatus>>{
-             {text.substr(0, text.size() - 30), ZOLReadStatus::ParseError},
-             {text, ZOLReadStatus::ParseError}, // more lines than a job holds
+             {two.substr(0, two.size() - 30), ZOLReadStatus::ParseError},
+             {two, ZOLReadStatus::ParseError}, // more lines than a job holds
              {std::string("\0\1\2", 3), ZOLReadStatus::Refused}}) {
         EXPECT_EQ(ZOLTemplateReader::readTemplateData(bytes, workbook, limits), status);
         ASSERT_EQ(workbook.customItems().size(), 1u);

@@ -12,6 +12,7 @@
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
 #include "support/AlertRecorder.h"
+#include "support/ChangedSample.h"
 #include "support/ScopedClock.h"
 #include "support/ScopedTimeZone.h"
 
@@ -45,10 +46,7 @@ std::string element(const std::string& name, const std::string& content) {
 }
 
 std::shared_ptr<ZOLWorkbook> open(const std::string& bytes) {
-    auto result = ZOLWorkbookReader::readWorkbookData(bytes);
-    EXPECT_EQ(result.status, ZOLReadStatus::Read);
-    EXPECT_FALSE(result.noWorkbookElement);
-    return result.workbook;
+    return openedWorkbook(bytes);
 }
 
 // The first worksheet of a file holding one record element with these fields.
@@ -116,7 +114,8 @@ TEST(ZOLWorkbookReader, TheSwitchesAreNotReadAndFieldsWithoutAnElementAreNotKept
     EXPECT_TRUE(alerts->alerts.empty());
 }
 
-TEST(ZOLWorkbookReader, TheConcreteElementsItDoesNotKnowOverwriteTheConcreteWallHeight) {
+TEST(ZOLWorkbookReader, ThePropertyCodeCarriesOverToElementsItDoesNotKnowAndToEndTags) {
+    // The concrete elements it does not know overwrite the concrete wall height.
     ScopedAlertRecorder alerts;
     auto concrete = [](const std::string& tail) {
         return openRecord("ConcreteData", "<WallHeight>9.000000</WallHeight>\n" + tail)
@@ -131,10 +130,8 @@ TEST(ZOLWorkbookReader, TheConcreteElementsItDoesNotKnowOverwriteTheConcreteWall
     // "true" read as a number is 0.0.
     EXPECT_DOUBLE_EQ(concrete("<RemoveSqFtOpenings>true</RemoveSqFtOpenings>")->wallHeight(), 0.0);
     EXPECT_DOUBLE_EQ(concrete("")->wallHeight(), 9.0);
-}
 
-TEST(ZOLWorkbookReader, ThePropertyCodeCarriesOverToUnknownAndContainerEndTags) {
-    ScopedAlertRecorder alerts;
+    // The property code carries over to unknown and container end tags.
     EXPECT_DOUBLE_EQ(openRecord("WallData", "<WallLength>100</WallLength><Colour>120</Colour>")
                          ->wallData()
                          ->wallLength(),
@@ -205,7 +202,9 @@ TEST(ZOLWorkbookReader, TextsItDoesNotKnowChangeNothingAndMissingElementsKeepDef
 }
 
 // Every way an open can end other than in a clean read.
-TEST(ZOLWorkbookReader, AFileThatIsNotWellFormedFailsWithTheOpenAlert) {
+// A file that is not well formed fails with the open alert; bytes that are no text are refused;
+// well-formed XML without a workbook opens a new workbook after the alert.
+TEST(ZOLWorkbookReader, AnOpenThatIsNotACleanReadAlertsOrRefuses) {
     for (const std::string& bytes : {
              file("\t<ProjectName>Smith & Sons</ProjectName>\n"),
              file("\t<ProjectName>a < b</ProjectName>\n"),
@@ -229,10 +228,7 @@ TEST(ZOLWorkbookReader, AFileThatIsNotWellFormedFailsWithTheOpenAlert) {
         EXPECT_FALSE(result.workbook);
     }
     EXPECT_TRUE(alerts->alerts.empty());
-}
 
-TEST(ZOLWorkbookReader, WellFormedXMLWithoutAWorkbookOpensANewWorkbookAfterTheAlert) {
-    ScopedAlertRecorder alerts;
     const auto result = ZOLWorkbookReader::readWorkbookData("<?xml version=\"1.0\"?>\n<Pricing/>");
     ASSERT_EQ(result.status, ZOLReadStatus::Read);
     EXPECT_TRUE(result.noWorkbookElement);
@@ -245,7 +241,8 @@ TEST(ZOLWorkbookReader, WellFormedXMLWithoutAWorkbookOpensANewWorkbookAfterTheAl
     EXPECT_EQ(alerts->alerts.size(), 1u);
 }
 
-TEST(ZOLWorkbookReader, ARepeatedWorksheetNameIsDroppedWithTheModelsAlert) {
+// A repeated worksheet name is dropped with the model's alert.
+TEST(ZOLWorkbookReader, WorksheetsAndRecordsInOddPlacesOpenAsTheApplicationAlwaysHasOpenedThem) {
     ScopedAlertRecorder alerts;
     auto workbook = open(file("<Worksheets><Worksheet Name=\"Garage\"><WallData><WallLength>1"
                               "</WallLength></WallData></Worksheet><Worksheet Name=\"Garage\">"
@@ -258,17 +255,14 @@ TEST(ZOLWorkbookReader, ARepeatedWorksheetNameIsDroppedWithTheModelsAlert) {
     // A worksheet without a name attribute is "Worksheet 1".
     EXPECT_EQ(workbook->worksheets()[1]->name(), "Worksheet 1");
     EXPECT_EQ(workbook->worksheets()[2]->name(), "garage");
-}
 
-TEST(ZOLWorkbookReader, StructuralOdditiesNeverLeaveAWorksheetWithoutARecord) {
-    ScopedAlertRecorder alerts;
-    // Records outside a worksheet, a record nested in itself.
-    auto workbook =
-        open(file("\t<WallData><WallLength>5</WallLength></WallData>\n"
-                  "\t<Opening><RowNumber>4</RowNumber></Opening>\n"
-                  "\t<PriceItem><Price>9</Price></PriceItem>\n" +
-                  sheet("S", element("WallData", element("WallData", "<WallLength>7"
-                                                                     "</WallLength>")))));
+    // Records outside a worksheet, a record nested in itself: structural oddities never leave a
+    // worksheet without a record.
+    workbook = open(file("\t<WallData><WallLength>5</WallLength></WallData>\n"
+                         "\t<Opening><RowNumber>4</RowNumber></Opening>\n"
+                         "\t<PriceItem><Price>9</Price></PriceItem>\n" +
+                         sheet("S", element("WallData", element("WallData", "<WallLength>7"
+                                                                            "</WallLength>")))));
     ASSERT_EQ(workbook->worksheets().size(), 1u);
     ASSERT_TRUE(workbook->worksheets()[0]->wallData());
     EXPECT_DOUBLE_EQ(workbook->worksheets()[0]->wallData()->wallLength(), 7.0);
@@ -282,12 +276,9 @@ TEST(ZOLWorkbookReader, StructuralOdditiesNeverLeaveAWorksheetWithoutARecord) {
 
 TEST(ZOLWorkbookReader, AFileBeyondWhatAJobHoldsIsReportedAsAnOpenError) {
     ScopedAlertRecorder alerts;
-    ZOLReadLimits limits;
-    limits.worksheets = 3;
-    limits.openingsPerWorksheet = 2;
-    limits.priceItems = 46;
-    ZOLReadLimits objects;
-    objects.objects = 66; // three worksheets of seven objects, the workbook and 44 prices
+    const ZOLReadLimits limits{.worksheets = 3, .openingsPerWorksheet = 2, .priceItems = 46};
+    // Three worksheets of seven objects, the workbook and 44 prices.
+    const ZOLReadLimits objects{.objects = 66};
     auto repeat = [](int count, const std::string& text) {
         std::string all;
         for (int i = 0; i < count; ++i)

@@ -2,7 +2,6 @@
 // differ and exactly their consequences, and the CSV and page forms. The figures against the
 // two take-offs, with a price file, are checked on zolest diff.
 #include "report/ZOLChangeOrder.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLWorkbook.h"
 #include "report/ZOLChangeOrderFormat.h"
 #include "support/AlertRecorder.h"
@@ -14,10 +13,9 @@ namespace {
 
 using Order = ZOLChangeOrder;
 
-std::shared_ptr<ZOLWorkbook> read(const std::string& text) {
-    auto result = ZOLWorkbookReader::readWorkbookData(text);
-    EXPECT_TRUE(result.ok());
-    return result.workbook;
+// The change order from the sample house to the same house saved as this text.
+Order fromSampleTo(const std::string& newer) {
+    return Order(*openedWorkbook(sampleHouseText()), *openedWorkbook(newer));
 }
 
 const Order::Worksheet& sheetNamed(const Order& order, const std::string& name) {
@@ -31,7 +29,7 @@ const Order::Worksheet& sheetNamed(const Order& order, const std::string& name) 
 
 TEST(ZOLChangeOrder, IdenticalJobsHaveNoDifference) {
     ScopedAlertRecorder alerts;
-    const Order order(*read(sampleHouseText()), *read(sampleHouseText()));
+    const Order order = fromSampleTo(sampleHouseText());
     EXPECT_TRUE(order.isSame());
     for (const auto& sheet : order.worksheets())
         EXPECT_EQ(sheet.status, Order::Status::Same) << sheet.name;
@@ -40,32 +38,27 @@ TEST(ZOLChangeOrder, IdenticalJobsHaveNoDifference) {
               "worksheet,status,section,record,item,unit,old,new,difference\r\n");
 }
 
-TEST(ZOLChangeOrder, OneLongerWallGivesThatFieldAndOnlyTheWallsConsequences) {
+TEST(ZOLChangeOrder, AnEditGivesItsFieldsAndOnlyTheirConsequences) {
     ScopedAlertRecorder alerts;
-    const auto older = read(sampleHouseText());
-    const auto newer = read(longerBasement(sampleHouseText()));
-    const Order order(*older, *newer);
+    const Order order = fromSampleTo(longerBasement(sampleHouseText()));
     EXPECT_FALSE(order.isSame());
     EXPECT_EQ(sheetNamed(order, "Main Floor").status, Order::Status::Same);
 
     const auto& basement = sheetNamed(order, "Basement");
     EXPECT_EQ(basement.status, Order::Status::Changed);
     ASSERT_EQ(basement.fields.size(), 1u);
+    // Its old and new texts, "168.00 ft" and "180.00 ft": see zolest diff's CSV.
     EXPECT_EQ(basement.fields[0].field, "wallLength");
-    EXPECT_EQ(basement.fields[0].oldValue, "168.00 ft");
-    EXPECT_EQ(basement.fields[0].newValue, "180.00 ft");
     // Only the wall's own figures move: the rebar, concrete and labour records keep their
     // lengths until the user pulls the wall data into them.
     for (const auto& result : basement.results)
         EXPECT_EQ(result.record, "Wall") << result.name;
     // The part counts, weight and money against the two take-offs: see zolest diff's tests.
-}
 
-TEST(ZOLChangeOrder, AnAddedWindowIsAChangedRowAndTheWallsOpenings) {
-    ScopedAlertRecorder alerts;
-    const Order order(*read(sampleHouseText()), *read(basementWindowAdded(sampleHouseText())));
+    // An added window is a changed row and the wall's openings.
+    const Order window = fromSampleTo(basementWindowAdded(sampleHouseText()));
     std::vector<std::string> fields;
-    for (const auto& f : sheetNamed(order, "Basement").fields)
+    for (const auto& f : sheetNamed(window, "Basement").fields)
         fields.push_back(f.record + " " + f.label + ": " + f.oldValue.value_or("-") + " > " +
                          f.newValue.value_or("-"));
     EXPECT_EQ(fields, (std::vector<std::string>{"Wall Openings: 69.64 sq ft > 85.64 sq ft",
@@ -75,10 +68,8 @@ TEST(ZOLChangeOrder, AnAddedWindowIsAChangedRowAndTheWallsOpenings) {
 
 TEST(ZOLChangeOrder, WorksheetsAddedAndRemovedCountFromNothing) {
     ScopedAlertRecorder alerts;
-    const auto older = read(sampleHouseText());
-    const auto newer =
-        read(edited(sampleHouseText(), "", "\"Main Floor\"", "\"Shop, &quot;east&quot;\""));
-    const Order order(*older, *newer);
+    const Order order =
+        fromSampleTo(edited(sampleHouseText(), "", "\"Main Floor\"", "\"Shop, &quot;east&quot;\""));
     ASSERT_EQ(order.worksheets().size(), 4u);
     const auto& added = order.worksheets()[1];
     const auto& removed = order.worksheets()[3];
@@ -97,14 +88,14 @@ TEST(ZOLChangeOrder, WorksheetsAddedAndRemovedCountFromNothing) {
 
 TEST(ZOLChangeOrderFormat, CsvQuotesAndThePageEscapesWhatTheUserTyped) {
     ScopedAlertRecorder alerts;
-    const auto older = read(sampleHouseText());
-    const auto newer = read(edited(sampleHouseText(), "", "\"Main Floor\"",
-                                   "\"&lt;script&gt;x&lt;/script&gt;, &quot;a&quot;\""));
-    const Order order(*older, *newer);
+    const std::string newer = edited(sampleHouseText(), "", "\"Main Floor\"",
+                                     "\"&lt;script&gt;x&lt;/script&gt;, &quot;a&quot;\"");
+    const Order order = fromSampleTo(newer);
     const std::string csv = ZOLChangeOrderFormat::getCSV(order);
     EXPECT_NE(csv.find("\r\n\"<script>x</script>, \"\"a\"\"\",added,worksheet,"),
               std::string::npos);
-    const std::string html = ZOLChangeOrderFormat::getHTML(order, {"a", "b", "c"}, *newer, false);
+    const std::string html =
+        ZOLChangeOrderFormat::getHTML(order, {"a", "b", "c"}, *openedWorkbook(newer), false);
     EXPECT_EQ(html.find("<script>"), std::string::npos);
     EXPECT_NE(html.find("&lt;script&gt;x&lt;/script&gt;, &quot;a&quot;"), std::string::npos);
 }

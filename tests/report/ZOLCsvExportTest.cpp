@@ -2,13 +2,13 @@
 // the same counts and totals as the Block Info tab and the printed summaries.
 #include "report/ZOLCsvExport.h"
 #include "io/ZOLPriceFileReader.h"
-#include "io/ZOLWorkbookReader.h"
 #include "model/ZOLCustomItem.h"
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
 #include "report/ZOLPrintData.h"
-#include "support/TempFolder.h"
+#include "support/ChangedSample.h"
+#include "support/RecordFile.h"
 
 #include <gtest/gtest.h>
 
@@ -17,26 +17,15 @@
 
 namespace {
 
-std::shared_ptr<ZOLWorkbook> sampleHouse() {
-    auto result = ZOLWorkbookReader::readWorkbookData(
-        TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol"));
-    EXPECT_TRUE(result.ok());
-    return result.workbook;
-}
-
+// The lines of a text whose lines end in CR LF.
 std::vector<std::string> lines(const std::string& csv) {
-    std::vector<std::string> result;
-    for (std::size_t at = 0; at < csv.size();) {
-        const std::size_t end = csv.find("\r\n", at);
-        result.push_back(csv.substr(at, end - at));
-        at = end == std::string::npos ? csv.size() : end + 2;
-    }
-    return result;
+    static const std::regex lineEnd("\r\n");
+    return {std::sregex_token_iterator(csv.begin(), csv.end(), lineEnd, -1), {}};
 }
 
 } // namespace
 
-TEST(ZOLCsvExport, FieldsAreQuotedOnlyWhenTheyMustBe) {
+TEST(ZOLCsvExport, FieldsAreQuotedOnlyWhenTheyMustBeAndTheOrderListHasTheBlockInfoCounts) {
     const std::pair<const char*, const char*> cases[] = {
         {"8\" Straight", "\"8\"\" Straight\""}, // a quote doubles inside quotes
         {"North, upper", "\"North, upper\""},
@@ -48,9 +37,8 @@ TEST(ZOLCsvExport, FieldsAreQuotedOnlyWhenTheyMustBe) {
     };
     for (const auto& [text, expected] : cases)
         EXPECT_EQ(ZOLCsvExport::field(text), expected) << text;
-}
 
-TEST(ZOLCsvExport, OrderListHasTheBlockInfoCountsOfEveryWorksheet) {
+    // The order list has the Block Info counts of every worksheet.
     ZOLWorkbook workbook;
     workbook.worksheets().front()->setName("North, \"A\"");
     auto wall = workbook.worksheets().front()->wallData();
@@ -70,17 +58,11 @@ TEST(ZOLCsvExport, OrderListHasTheBlockInfoCountsOfEveryWorksheet) {
 }
 
 TEST(ZOLCsvExport, TotalsAreThoseOfThePrintedSummaries) {
-    auto workbook = sampleHouse();
-    ZOLPriceFileReader::readPriceData(
-        TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp"),
-        *workbook->pricingData());
-    auto custom = std::make_shared<ZOLCustomItem>();
-    custom->setName("Permit, \"city\"");
-    custom->setQuantity(1.5);
-    custom->setUnit("Each");
-    custom->setCost(425);
+    auto workbook = openedWorkbook(sampleHouseText());
+    ZOLPriceFileReader::readPriceData(TempFolder::contents(kPrices), *workbook->pricingData());
     auto items = workbook->customItems();
-    items.push_back(custom);
+    items.push_back(std::make_shared<ZOLCustomItem>(readRecord<ZOLCustomItem>(
+        {{84, "Permit, \"city\""}, {85, "1.5"}, {86, "Each"}, {87, "425"}})));
     workbook->setCustomItems(items);
 
     const auto job = lines(ZOLCsvExport::getJobSummaryCSV(*workbook));

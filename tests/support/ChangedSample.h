@@ -1,13 +1,31 @@
 #pragma once
-// The sample house and versions of it edited the way a user edits a job, for the change-order
-// tests: the text of the workbook file with one element's text replaced.
+// The example files (the sample house, its price list and its job-summary template), the
+// workbook a file's text opens as, and versions of the sample house edited the way a user edits
+// a job, for the change-order tests: the text of the workbook file with one element's text
+// replaced.
+#include "io/ZOLWorkbookReader.h"
+#include "model/ZOLWorkbook.h"
 #include "support/TempFolder.h"
 
+#include <memory>
 #include <stdexcept>
 #include <string>
 
+inline const std::string kSample = std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol";
+inline const std::string kPrices = std::string(ZOL_SOURCE_DIR) + "/examples/prices.zp";
+inline const std::string kTemplate = std::string(ZOL_SOURCE_DIR) + "/examples/job-summary.zci";
+
 inline std::string sampleHouseText() {
-    return TempFolder::contents(std::string(ZOL_SOURCE_DIR) + "/examples/sample-house.zol");
+    return TempFolder::contents(kSample);
+}
+
+// The workbook a file's text opens as; a text that does not open cleanly as a workbook throws,
+// which fails the test in either framework.
+inline std::shared_ptr<ZOLWorkbook> openedWorkbook(const std::string& bytes) {
+    auto result = ZOLWorkbookReader::readWorkbookData(bytes);
+    if (!result.ok() || result.noWorkbookElement)
+        throw std::runtime_error("the text does not open as a workbook");
+    return result.workbook;
 }
 
 // The text with the first `from` after `after` replaced by `to`; throws when there is none,

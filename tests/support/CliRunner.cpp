@@ -1,20 +1,12 @@
 #include "support/CliRunner.h"
+#include "support/TempFolder.h"
+
+#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <fcntl.h>
-#include <fstream>
-#include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
-
-namespace {
-std::string slurp(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream s;
-    s << in.rdbuf();
-    return s.str();
-}
-} // namespace
 
 CliResult runZolest(const std::vector<std::string>& args) {
     char outPath[] = "/tmp/zolest-out-XXXXXX";
@@ -41,9 +33,24 @@ CliResult runZolest(const std::vector<std::string>& args) {
     close(outFd);
     close(errFd);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
-    result.out = slurp(outPath);
-    result.err = slurp(errPath);
+    result.out = TempFolder::contents(outPath);
+    result.err = TempFolder::contents(errPath);
     unlink(outPath);
     unlink(errPath);
     return result;
+}
+
+std::string outputOf(const std::vector<std::string>& args) {
+    const CliResult result = runZolest(args);
+    EXPECT_EQ(result.exitCode, 0) << result.err;
+    EXPECT_EQ(result.err, "");
+    return result.out;
+}
+
+void expectRefusal(const std::vector<std::string>& args, const std::string& message, int exitCode) {
+    const CliResult result = runZolest(args);
+    EXPECT_EQ(result.exitCode, exitCode) << args.back() << "\n" << result.err;
+    EXPECT_EQ(result.out, "");
+    EXPECT_NE(result.err.find("zolest:"), std::string::npos) << result.err;
+    EXPECT_NE(result.err.find(message), std::string::npos) << result.err;
 }
