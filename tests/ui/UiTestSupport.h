@@ -2,6 +2,7 @@
 // What the window tests share: files, modal windows answered once they show, typing and choosing
 // as a user does, and an alert recorder that also answers the alerts with a text field.
 #include "support/AlertRecorder.h"
+#include "ui/ZOLDocument.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLInfoPopup.h"
@@ -98,6 +99,24 @@ std::unique_ptr<Screen> shownScreen(const std::function<void(Screen&)>& hand) {
         qFatal("the screen did not show");
     return screen;
 }
+
+// What a screen's test shares: the screen, made afresh by each test's init(), and its controls.
+template <class Screen> class ScreenTest : public QObject {
+protected:
+    std::unique_ptr<Screen> screen;
+
+    void showScreen(const std::function<void(Screen&)>& hand) {
+        screen = shownScreen<Screen>(hand);
+    }
+    template <typename T> T* control(const QString& name) const {
+        return ::control<T>(screen.get(), name);
+    }
+    template <typename T> static T* control(const QObject* parent, const QString& name) {
+        return ::control<T>(parent, name);
+    }
+    QLineEdit* field(const QString& name) const { return control<QLineEdit>(name); }
+    QComboBox* box(const QString& name) const { return control<QComboBox>(name); }
+};
 
 // Replaces a field's text by typing, one keystroke at a time, as a user would.
 inline void type(QLineEdit* edit, const QString& keys) {
@@ -215,6 +234,39 @@ public:
     std::deque<std::string> texts;
     std::vector<std::string> shownTexts;
 };
+
+// A test object's field alert recorder, installed while the object lives; renew() in init()
+// starts each test with no alerts and no answers.
+class FieldAlerts {
+public:
+    FieldAlerts() : previous_(ZOLAlerts::setPresenter(recorder_)) {}
+    ~FieldAlerts() { ZOLAlerts::setPresenter(previous_); }
+    FieldAlerts(const FieldAlerts&) = delete;
+    FieldAlerts& operator=(const FieldAlerts&) = delete;
+    void renew() { *recorder_ = FieldAlertRecorder(); }
+    FieldAlertRecorder* operator->() { return recorder_.get(); }
+
+private:
+    std::shared_ptr<FieldAlertRecorder> recorder_ = std::make_shared<FieldAlertRecorder>();
+    std::shared_ptr<ZOLAlertPresenter> previous_;
+};
+
+// A copy of the sample house at `path`, replacing an earlier one.
+inline QString sampleHouseCopy(const QString& path) {
+    QFile::remove(path);
+    if (!QFile::copy(ZOL_SOURCE_DIR "/examples/sample-house.zol", path))
+        qFatal("the sample could not be copied");
+    return path;
+}
+
+// A document window opened on `path`, with this computer's snapshots kept beside the file.
+inline std::unique_ptr<ZOLDocument> openedDocument(const QString& path) {
+    auto document = std::make_unique<ZOLDocument>();
+    document->setSnapshotDirectory(QFileInfo(path).dir().filePath("snapshots"));
+    if (!document->readFromFile(path))
+        qFatal("%s did not open", qPrintable(path));
+    return document;
+}
 
 // The main of a test that renders reports: the web engine is set up before the application.
 #define ZOL_RENDERER_TEST_MAIN(TestClass)                                                          \

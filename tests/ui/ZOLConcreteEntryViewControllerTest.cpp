@@ -5,21 +5,16 @@
 #include "model/ZOLConcrete.h"
 #include "model/ZOLWall.h"
 
-class ZOLConcreteEntryViewControllerTest : public QObject {
+class ZOLConcreteEntryViewControllerTest : public ScreenTest<ZOLConcreteEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLConcreteEntryViewController> screen;
     std::shared_ptr<ZOLConcrete> concrete;
-
-    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
 
 private slots:
     void init() {
         concrete = std::make_shared<ZOLConcrete>();
-        screen = shownScreen<ZOLConcreteEntryViewController>(
-            [this](auto& s) { s.setConcreteData(concrete); });
+        showScreen([this](auto& s) { s.setConcreteData(concrete); });
     }
-    void cleanup() { screen.reset(); }
 
     void wholeInchFieldsTakeTheLeadingIntegerAndVolumesFollow() {
         type(field("wallThickness"), "8.5");
@@ -34,17 +29,17 @@ private slots:
         QCOMPARE(field("totalVolume")->text(), QString("6.00 Y³"));
 
         // Cubic metres change the volumes and labels, never the weights or the sizes typed.
-        auto* yardsChoice = control<QRadioButton>(screen.get(), "cubicYards");
+        auto* yardsChoice = control<QRadioButton>("cubicYards");
         yardsChoice->setFocus();
         QTest::keyClick(yardsChoice, Qt::Key_Right);
         QCOMPARE(concrete->measurement(), 1);
-        QCOMPARE(control<QLabel>(screen.get(), "wallMeasurement")->text(), QString("M³"));
+        QCOMPARE(control<QLabel>("wallMeasurement")->text(), QString("M³"));
         QCOMPARE(field("wallVolume")->text(), QString("4.59"));
         QCOMPARE(field("wallWeight")->text(), weight);
         QCOMPARE(field("totalVolume")->text(), QString("4.59 M³"));
 
         // Nothing fills the openings area, so the box changes the flag and not the volume.
-        control<QCheckBox>(screen.get(), "removeOpenings")->click();
+        control<QCheckBox>("removeOpenings")->click();
         QVERIFY(concrete->removeSqFtOpenings());
         QCOMPARE(field("wallVolume")->text(), QString("4.59"));
     }

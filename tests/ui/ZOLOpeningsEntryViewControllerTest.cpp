@@ -7,10 +7,9 @@
 #include "model/ZOLWall.h"
 #include "ui/ZOLOpeningsTableModel.h"
 
-class ZOLOpeningsEntryViewControllerTest : public QObject {
+class ZOLOpeningsEntryViewControllerTest : public ScreenTest<ZOLOpeningsEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLOpeningsEntryViewController> screen;
     std::shared_ptr<ZOLOpenings> openings;
     std::shared_ptr<ZOLWall> wall;
 
@@ -47,12 +46,11 @@ private slots:
     void init() {
         openings = std::make_shared<ZOLOpenings>();
         wall = std::make_shared<ZOLWall>();
-        screen = shownScreen<ZOLOpeningsEntryViewController>([this](auto& s) {
+        showScreen([this](auto& s) {
             s.setOpeningData(openings);
             s.setWallData(wall);
         });
     }
-    void cleanup() { screen.reset(); }
 
     void addingAndRemovingNumbersTheRows() {
         for (int i = 0; i < 3; ++i)
