@@ -48,9 +48,8 @@ private slots:
         QTemporaryDir dir;
         const QString path = dir.filePath("house.zol");
         writeAll(path, QByteArray::fromStdString(sampleHouseText()));
-        ZOLDocument document;
-        document.setSnapshotDirectory(dir.filePath("snapshots"));
-        QVERIFY(document.readFromFile(path));
+        const auto opened = openedDocument(path);
+        ZOLDocument& document = *opened;
         // A waste allowance lives only in the snapshot this computer keeps with the file: the
         // saved version has it too, so it is no change, and both versions count with it.
         const auto& wall = document.workbook()->worksheets()[0]->wallData();
