@@ -23,10 +23,6 @@ std::string pages(int count) {
     return html + ZOLPrintData::getFooterHTML();
 }
 
-QString resources() {
-    return QString::fromStdString(ZOLPrintData::resourcesDirectory());
-}
-
 } // namespace
 
 class ZOLReportRendererTest : public QObject {
@@ -38,7 +34,8 @@ class ZOLReportRendererTest : public QObject {
 private slots:
     void init() {
         dir = std::make_unique<QTemporaryDir>();
-        renderer = std::make_unique<ZOLReportRenderer>(resources());
+        renderer = std::make_unique<ZOLReportRenderer>(
+            QString::fromStdString(ZOLPrintData::resourcesDirectory()));
     }
     void markupInUserTextNeitherRunsNorReachesTheNetwork() {
         // A listener on the loopback interface counts every connection made to it.
