@@ -100,24 +100,6 @@ std::unique_ptr<Screen> shownScreen(const std::function<void(Screen&)>& hand) {
     return screen;
 }
 
-// What a screen's test shares: the screen, made afresh by each test's init(), and its controls.
-template <class Screen> class ScreenTest : public QObject {
-protected:
-    std::unique_ptr<Screen> screen;
-
-    void showScreen(const std::function<void(Screen&)>& hand) {
-        screen = shownScreen<Screen>(hand);
-    }
-    template <typename T> T* control(const QString& name) const {
-        return ::control<T>(screen.get(), name);
-    }
-    template <typename T> static T* control(const QObject* parent, const QString& name) {
-        return ::control<T>(parent, name);
-    }
-    QLineEdit* field(const QString& name) const { return control<QLineEdit>(name); }
-    QComboBox* box(const QString& name) const { return control<QComboBox>(name); }
-};
-
 // Replaces a field's text by typing, one keystroke at a time, as a user would.
 inline void type(QLineEdit* edit, const QString& keys) {
     edit->setFocus();
@@ -211,6 +193,32 @@ inline QString alertText(const ZOLAlert& alert) {
     return QString::fromStdString(alert.message) + " [" + buttons.join('|') + "] " +
            QString::fromStdString(alert.informativeText);
 }
+
+// What a screen's test shares: the screen, made afresh by each test's init(), and its controls.
+template <class Screen> class ScreenTest : public QObject {
+protected:
+    std::unique_ptr<Screen> screen;
+
+    void showScreen(const std::function<void(Screen&)>& hand) {
+        screen = shownScreen<Screen>(hand);
+    }
+    template <typename T> T* control(const QString& name) const {
+        return ::control<T>(screen.get(), name);
+    }
+    template <typename T> static T* control(const QObject* parent, const QString& name) {
+        return ::control<T>(parent, name);
+    }
+    QLineEdit* field(const QString& name) const { return control<QLineEdit>(name); }
+    QComboBox* box(const QString& name) const { return control<QComboBox>(name); }
+
+    // Hands the screen `wall` and runs its pull command, which says it took the wall's facts.
+    template <class Wall> void pullFrom(std::shared_ptr<Wall> wall, void (Screen::*pull)()) {
+        ScopedAlertRecorder alerts;
+        screen->setWallData(wall);
+        (screen.get()->*pull)();
+        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
+    }
+};
 
 // Records every alert and answers with the scripted buttons; a field alert also records the text
 // it was shown with and gets the scripted text typed into it.

@@ -36,7 +36,6 @@ private slots:
     }
 
     void pullDataAddsCornersAngleAndTs() {
-        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setInsideCornerLocations(2);
         wall->setOutsideCornerLocations(3);
@@ -44,10 +43,8 @@ private slots:
         wall->setAngleLocations(1);
         wall->setLinearFeetCorbel(10.0);
         wall->setLinearFeetTapered(2.5);
-        screen->setWallData(wall);
-        screen->pullDataFromWall();
+        pullFrom(wall, &ZOLManHoursEntryViewController::pullDataFromWall);
         expectTexts(screen.get(), "cornersAndTs=7|lfCorbelCurbTapered=12.50");
-        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
     }
 
     void infoButtonsAndF1OpenTheirIllustrations() {

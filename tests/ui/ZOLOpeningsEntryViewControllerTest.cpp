@@ -23,16 +23,13 @@ class ZOLOpeningsEntryViewControllerTest : public ScreenTest<ZOLOpeningsEntryVie
             numbers.push_back(o->rowNumber());
         return numbers;
     }
-    void typeInCell(int row, Column column, const QString& keys) {
-        ::typeInCell(table(), row, column, keys);
-    }
     // Adds a row and types its count, width and height.
     void addRow(const char* count, const char* width, const char* height) {
         button("addOpening")->click();
         const int row = rowCount(table()) - 1;
-        typeInCell(row, Column::NumberOfOpenings, count);
-        typeInCell(row, Column::Width, width);
-        typeInCell(row, Column::Height, height);
+        typeInCell(table(), row, Column::NumberOfOpenings, count);
+        typeInCell(table(), row, Column::Width, width);
+        typeInCell(table(), row, Column::Height, height);
     }
     // The texts of a row's cells, one space between.
     QString cells(int row, std::initializer_list<Column> columns) {
@@ -87,9 +84,9 @@ private slots:
         expectTexts(screen.get(), "totalSqFt=24.00 Sq Ft|totalLF=29.34 LF");
 
         // Text is read by what it starts with; letters alone give 0.
-        typeInCell(0, Column::Width, "30in");
+        typeInCell(table(), 0, Column::Width, "30in");
         QCOMPARE(row.openingWidth(), 30.0);
-        typeInCell(0, Column::NumberOfOpenings, "abc");
+        typeInCell(table(), 0, Column::NumberOfOpenings, "abc");
         QCOMPARE(row.numberOfOpenings(), 0);
         QCOMPARE(cells(0, {Column::NumberOfOpenings}), QString("0"));
         expectTexts(screen.get(), "totalSqFt=0.00 Sq Ft");
