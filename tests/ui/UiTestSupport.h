@@ -88,18 +88,6 @@ inline void expectTexts(const QObject* parent, const QString& texts) {
     }
 }
 
-// A screen as the document shows it: made, handed its records by `hand`, loaded and shown.
-template <class Screen>
-std::unique_ptr<Screen> shownScreen(const std::function<void(Screen&)>& hand) {
-    auto screen = std::make_unique<Screen>();
-    hand(*screen);
-    screen->loadValues();
-    screen->show();
-    if (!QTest::qWaitForWindowExposed(screen.get()))
-        qFatal("the screen did not show");
-    return screen;
-}
-
 // Replaces a field's text by typing, one keystroke at a time, as a user would.
 inline void type(QLineEdit* edit, const QString& keys) {
     edit->setFocus();
@@ -199,8 +187,14 @@ template <class Screen> class ScreenTest : public QObject {
 protected:
     std::unique_ptr<Screen> screen;
 
+    // The screen as the document shows it: made, handed its records by `hand`, loaded and shown.
     void showScreen(const std::function<void(Screen&)>& hand) {
-        screen = shownScreen<Screen>(hand);
+        screen = std::make_unique<Screen>();
+        hand(*screen);
+        screen->loadValues();
+        screen->show();
+        if (!QTest::qWaitForWindowExposed(screen.get()))
+            qFatal("the screen did not show");
     }
     template <typename T> T* control(const QString& name) const {
         return ::control<T>(screen.get(), name);
