@@ -25,7 +25,7 @@ class ZOLJobDocumentTest : public QObject {
 private slots:
     void initTestCase() { useTestSettings("ZOLJobDocumentTest"); }
 
-    void autosaveRevertAndDontSaveKeepTheFileAsSaved() {
+    void autosaveAndRevertKeepTheFileAsSaved() {
         const QString path = dir_.filePath("house.zol");
         ZOLJobDocument document;
         document.setSnapshotDirectory(dir_.filePath("snapshots"));
