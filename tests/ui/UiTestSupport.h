@@ -2,6 +2,7 @@
 // What the window tests share: files, modal windows answered once they show, typing and choosing
 // as a user does, and an alert recorder that also answers the alerts with a text field.
 #include "support/AlertRecorder.h"
+#include "ui/ZOLDocument.h"
 #include "ui/ZOLFieldAlerts.h"
 #include "ui/ZOLFilePanels.h"
 #include "ui/ZOLInfoPopup.h"
@@ -85,18 +86,6 @@ inline void expectTexts(const QObject* parent, const QString& texts) {
         const QString name = expected.section('=', 0, 0);
         QCOMPARE(name + "=" + control<QLineEdit>(parent, name)->text(), expected);
     }
-}
-
-// A screen as the document shows it: made, handed its records by `hand`, loaded and shown.
-template <class Screen>
-std::unique_ptr<Screen> shownScreen(const std::function<void(Screen&)>& hand) {
-    auto screen = std::make_unique<Screen>();
-    hand(*screen);
-    screen->loadValues();
-    screen->show();
-    if (!QTest::qWaitForWindowExposed(screen.get()))
-        qFatal("the screen did not show");
-    return screen;
 }
 
 // Replaces a field's text by typing, one keystroke at a time, as a user would.
@@ -193,6 +182,38 @@ inline QString alertText(const ZOLAlert& alert) {
            QString::fromStdString(alert.informativeText);
 }
 
+// What a screen's test shares: the screen, made afresh by each test's init(), and its controls.
+template <class Screen> class ScreenTest : public QObject {
+protected:
+    std::unique_ptr<Screen> screen;
+
+    // The screen as the document shows it: made, handed its records by `hand`, loaded and shown.
+    void showScreen(const std::function<void(Screen&)>& hand) {
+        screen = std::make_unique<Screen>();
+        hand(*screen);
+        screen->loadValues();
+        screen->show();
+        if (!QTest::qWaitForWindowExposed(screen.get()))
+            qFatal("the screen did not show");
+    }
+    template <typename T> T* control(const QString& name) const {
+        return ::control<T>(screen.get(), name);
+    }
+    template <typename T> static T* control(const QObject* parent, const QString& name) {
+        return ::control<T>(parent, name);
+    }
+    QLineEdit* field(const QString& name) const { return control<QLineEdit>(name); }
+    QComboBox* box(const QString& name) const { return control<QComboBox>(name); }
+
+    // Hands the screen `wall` and runs its pull command, which says it took the wall's facts.
+    template <class Wall> void pullFrom(std::shared_ptr<Wall> wall, void (Screen::*pull)()) {
+        ScopedAlertRecorder alerts;
+        screen->setWallData(wall);
+        (screen.get()->*pull)();
+        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
+    }
+};
+
 // Records every alert and answers with the scripted buttons; a field alert also records the text
 // it was shown with and gets the scripted text typed into it.
 class FieldAlertRecorder : public AlertRecorder, public ZOLFieldAlertPresenter {
@@ -215,6 +236,39 @@ public:
     std::deque<std::string> texts;
     std::vector<std::string> shownTexts;
 };
+
+// A test object's field alert recorder, installed while the object lives; renew() in init()
+// starts each test with no alerts and no answers.
+class FieldAlerts {
+public:
+    FieldAlerts() : previous_(ZOLAlerts::setPresenter(recorder_)) {}
+    ~FieldAlerts() { ZOLAlerts::setPresenter(previous_); }
+    FieldAlerts(const FieldAlerts&) = delete;
+    FieldAlerts& operator=(const FieldAlerts&) = delete;
+    void renew() { *recorder_ = FieldAlertRecorder(); }
+    FieldAlertRecorder* operator->() { return recorder_.get(); }
+
+private:
+    std::shared_ptr<FieldAlertRecorder> recorder_ = std::make_shared<FieldAlertRecorder>();
+    std::shared_ptr<ZOLAlertPresenter> previous_;
+};
+
+// A copy of the sample house at `path`, replacing an earlier one.
+inline QString sampleHouseCopy(const QString& path) {
+    QFile::remove(path);
+    if (!QFile::copy(ZOL_SOURCE_DIR "/examples/sample-house.zol", path))
+        qFatal("the sample could not be copied");
+    return path;
+}
+
+// A document window opened on `path`, with this computer's snapshots kept beside the file.
+inline std::unique_ptr<ZOLDocument> openedDocument(const QString& path) {
+    auto document = std::make_unique<ZOLDocument>();
+    document->setSnapshotDirectory(QFileInfo(path).dir().filePath("snapshots"));
+    if (!document->readFromFile(path))
+        qFatal("%s did not open", qPrintable(path));
+    return document;
+}
 
 // The main of a test that renders reports: the web engine is set up before the application.
 #define ZOL_RENDERER_TEST_MAIN(TestClass)                                                          \

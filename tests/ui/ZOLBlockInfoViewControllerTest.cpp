@@ -3,10 +3,9 @@
 #include "UiTestSupport.h"
 #include "model/ZOLWall.h"
 
-class ZOLBlockInfoViewControllerTest : public QObject {
+class ZOLBlockInfoViewControllerTest : public ScreenTest<ZOLBlockInfoViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLBlockInfoViewController> screen;
     std::shared_ptr<ZOLWall> wall;
 
     QTableView* table() { return screen->findChild<QTableView*>("partTable"); }

@@ -12,20 +12,15 @@
 #include "UiTestSupport.h"
 #include "support/ChangedSample.h"
 
-namespace {
-std::shared_ptr<ZOLWorkbook> read(const std::string& text) {
-    return ZOLWorkbookReader::readWorkbookData(text).workbook;
-}
-} // namespace
-
 class ZOLChangeOrderWindowTest : public QObject {
     Q_OBJECT
 
 private slots:
     void showsTheChangeOrderTextAndItsFilter() {
         ScopedAlertRecorder alerts;
-        auto older = read(sampleHouseText());
-        auto newer = read(longerBasement(sampleHouseText()));
+        auto older = ZOLWorkbookReader::readWorkbookData(sampleHouseText()).workbook;
+        auto newer =
+            ZOLWorkbookReader::readWorkbookData(longerBasement(sampleHouseText())).workbook;
         ZOLChangeOrderWindow window(older, newer, nullptr, "quote.zol", "now.zol");
         QVERIFY(window.text().contains("Worksheet \"Main Floor\": same"));
         QVERIFY(window.text().contains("Wall: Wall length"));
@@ -48,9 +43,8 @@ private slots:
         QTemporaryDir dir;
         const QString path = dir.filePath("house.zol");
         writeAll(path, QByteArray::fromStdString(sampleHouseText()));
-        ZOLDocument document;
-        document.setSnapshotDirectory(dir.filePath("snapshots"));
-        QVERIFY(document.readFromFile(path));
+        const auto opened = openedDocument(path);
+        ZOLDocument& document = *opened;
         // A waste allowance lives only in the snapshot this computer keeps with the file: the
         // saved version has it too, so it is no change, and both versions count with it.
         const auto& wall = document.workbook()->worksheets()[0]->wallData();

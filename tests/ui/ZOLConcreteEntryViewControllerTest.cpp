@@ -5,21 +5,16 @@
 #include "model/ZOLConcrete.h"
 #include "model/ZOLWall.h"
 
-class ZOLConcreteEntryViewControllerTest : public QObject {
+class ZOLConcreteEntryViewControllerTest : public ScreenTest<ZOLConcreteEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLConcreteEntryViewController> screen;
     std::shared_ptr<ZOLConcrete> concrete;
-
-    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
 
 private slots:
     void init() {
         concrete = std::make_shared<ZOLConcrete>();
-        screen = shownScreen<ZOLConcreteEntryViewController>(
-            [this](auto& s) { s.setConcreteData(concrete); });
+        showScreen([this](auto& s) { s.setConcreteData(concrete); });
     }
-    void cleanup() { screen.reset(); }
 
     void wholeInchFieldsTakeTheLeadingIntegerAndVolumesFollow() {
         type(field("wallThickness"), "8.5");
@@ -34,32 +29,29 @@ private slots:
         QCOMPARE(field("totalVolume")->text(), QString("6.00 Y³"));
 
         // Cubic metres change the volumes and labels, never the weights or the sizes typed.
-        auto* yardsChoice = control<QRadioButton>(screen.get(), "cubicYards");
+        auto* yardsChoice = control<QRadioButton>("cubicYards");
         yardsChoice->setFocus();
         QTest::keyClick(yardsChoice, Qt::Key_Right);
         QCOMPARE(concrete->measurement(), 1);
-        QCOMPARE(control<QLabel>(screen.get(), "wallMeasurement")->text(), QString("M³"));
+        QCOMPARE(control<QLabel>("wallMeasurement")->text(), QString("M³"));
         QCOMPARE(field("wallVolume")->text(), QString("4.59"));
         QCOMPARE(field("wallWeight")->text(), weight);
         QCOMPARE(field("totalVolume")->text(), QString("4.59 M³"));
 
         // Nothing fills the openings area, so the box changes the flag and not the volume.
-        control<QCheckBox>(screen.get(), "removeOpenings")->click();
+        control<QCheckBox>("removeOpenings")->click();
         QVERIFY(concrete->removeSqFtOpenings());
         QCOMPARE(field("wallVolume")->text(), QString("4.59"));
     }
 
     void pullWallDataCopiesHeightLengthAndBlockSize() {
-        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallHeight(9.0);
         wall->setWallLength(120.0);
         wall->setBlockSize(6);
-        screen->setWallData(wall);
-        screen->pullWallData();
+        pullFrom(wall, &ZOLConcreteEntryViewController::pullWallData);
         expectTexts(screen.get(),
                     "wallHeight=9.00|wallLength=120.00|wallThickness=6|footingWidth=0");
-        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
     }
 };
 

@@ -22,17 +22,15 @@ private slots:
         QTemporaryDir dir;
         ScopedAlertRecorder alerts;
         const QString missing = dir.filePath("missing.zol");
-        struct Case {
-            ZOLFileKind kind;
-            std::string message, informative;
-        };
-        for (const Case& c : {Case{ZOLFileKind::Workbook, "The file “missing.zol” couldn’t be opened.",
-                                   "No such file or directory"},
-                              Case{ZOLFileKind::PriceList, kWrongFormat, ""},
-                              Case{ZOLFileKind::Template, kWrongFormat, ""}}) {
-            QVERIFY(!ZOLFileAlerts::readFile(missing, c.kind));
-            QCOMPARE(alerts->alerts.back().message, c.message);
-            QCOMPARE(alerts->alerts.back().informativeText, c.informative);
+        const std::tuple<ZOLFileKind, std::string, std::string> cases[] = {
+            {ZOLFileKind::Workbook, "The file “missing.zol” couldn’t be opened.",
+             "No such file or directory"},
+            {ZOLFileKind::PriceList, kWrongFormat, ""},
+            {ZOLFileKind::Template, kWrongFormat, ""}};
+        for (const auto& [kind, message, informative] : cases) {
+            QVERIFY(!ZOLFileAlerts::readFile(missing, kind));
+            QCOMPARE(alerts->alerts.back().message, message);
+            QCOMPARE(alerts->alerts.back().informativeText, informative);
         }
         QCOMPARE(alerts->alerts.size(), size_t(3));
 

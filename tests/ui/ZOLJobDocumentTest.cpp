@@ -1,11 +1,11 @@
-// The job document without a window: autosave into the file and into a recovery slot, Revert,
-// Don't Save, and the edited state that follows the job rather than the keystrokes.
+// The job document without a window: autosave into the file, Revert, and the edited
+// state that follows the job rather than the keystrokes. (Untitled work's recovery slot is
+// pinned through the window's controller.)
 #include "ui/ZOLJobDocument.h"
 #include "UiTestSupport.h"
 #include "model/ZOLWall.h"
 #include "model/ZOLWorkbook.h"
 #include "model/ZOLWorksheet.h"
-#include "ui/ZOLRecoveryStore.h"
 
 #include <QSignalSpy>
 
@@ -25,7 +25,7 @@ class ZOLJobDocumentTest : public QObject {
 private slots:
     void initTestCase() { useTestSettings("ZOLJobDocumentTest"); }
 
-    void autosaveRevertAndDontSaveKeepTheFileAsSaved() {
+    void autosaveAndRevertKeepTheFileAsSaved() {
         const QString path = dir_.filePath("house.zol");
         ZOLJobDocument document;
         document.setSnapshotDirectory(dir_.filePath("snapshots"));
@@ -54,41 +54,7 @@ private slots:
         setLength(document, 0.0);
         QVERIFY(!document.isDocumentEdited());
         QCOMPARE(readAll(path), saved);
-
-        setLength(document, 55.0);
-        document.autosave();
-        document.discardChanges();
-        QCOMPARE(readAll(path), saved);
-    }
-
-    void untitledWorkIsAutosavedToItsRecoverySlot() {
-        const ZOLRecoveryStore store(dir_.filePath("recovery"));
-        ZOLJobDocument document;
-        document.setRecoverySlotMaker([&store] { return store.createSlot(); });
-        document.autosave(); // nothing edited, nothing written
-        QVERIFY(QDir(store.directory()).entryList({"*.zol"}, QDir::Files).isEmpty());
-
-        setLength(document, 12.0);
-        document.workbook()->setNotes(std::string("Pour Monday"));
-        document.autosave();
-        const QStringList files = QDir(store.directory()).entryList({"*.zol"}, QDir::Files);
-        QCOMPARE(files.size(), 1);
-
-        // A second document adopts what the first left, as unsaved changes.
-        const QString leftover = QDir(store.directory()).filePath(files.front());
-        for (const char* suffix : {"", ".job"})
-            QVERIFY(QFile::copy(leftover + suffix, dir_.filePath("copy.zol") + suffix));
-        document.close();
-        QVERIFY(QDir(store.directory()).entryList({"*.zol"}, QDir::Files).isEmpty());
-
-        ZOLJobDocument restored;
-        QVERIFY(restored.restoreFromRecovery(
-            std::make_unique<ZOLRecoverySlot>(dir_.filePath("copy.zol"), nullptr)));
-        QCOMPARE(length(restored), 12.0);
-        QCOMPARE(restored.workbook()->notes().value_or(""), std::string("Pour Monday"));
-        QVERIFY(restored.isDocumentEdited());
-        QVERIFY(restored.filePath().isEmpty());
-        QCOMPARE(restored.displayName(), QString("Untitled"));
+        // Don't Save puts the file back too: pinned through the window's question.
     }
 };
 

@@ -46,15 +46,13 @@ void fillForm(QWidget* form, const QString& fields) {
 }
 } // namespace
 
-class ZOLJobSummaryViewControllerTest : public QObject {
+class ZOLJobSummaryViewControllerTest : public ScreenTest<ZOLJobSummaryViewController> {
     Q_OBJECT
 
     std::shared_ptr<ZOLWorkbook> workbook;
-    std::unique_ptr<ZOLJobSummaryViewController> screen;
-    std::shared_ptr<FieldAlertRecorder> alerts;
-    std::shared_ptr<ZOLAlertPresenter> previous;
+    FieldAlerts alerts;
 
-    QTableView* table() { return control<QTableView>(screen.get(), "summaryTable"); }
+    QTableView* table() { return control<QTableView>("summaryTable"); }
     QString cells(int row, int columns = 1) {
         QStringList texts;
         for (int column = 0; column < columns; ++column)
@@ -74,22 +72,14 @@ class ZOLJobSummaryViewControllerTest : public QObject {
     }
     double totalCost() {
         return QLocale(QLocale::English, QLocale::UnitedStates)
-            .toDouble(control<QLineEdit>(screen.get(), "totalCost")->text().remove('$'));
+            .toDouble(field("totalCost")->text().remove('$'));
     }
 
 private slots:
     void init() {
-        alerts = std::make_shared<FieldAlertRecorder>();
-        previous = ZOLAlerts::setPresenter(alerts);
+        alerts.renew();
         workbook = house();
-        screen = std::make_unique<ZOLJobSummaryViewController>();
-        screen->setWorkbook(workbook);
-        screen->loadValues();
-        screen->show();
-    }
-    void cleanup() {
-        screen.reset();
-        ZOLAlerts::setPresenter(previous);
+        showScreen([this](auto& s) { s.setWorkbook(workbook); });
     }
 
     void showsTheVisibleLinesAndCountsHiddenOnesInTheTotal() {
@@ -107,7 +97,7 @@ private slots:
         // The package in full bundles; the switch is the workbook's.
         QSignalSpy edited(screen.get(), &ZOLJobSummaryViewController::edited);
         QCOMPARE(workbook->customItems()[0]->cost(), 159 * 23.40);
-        control<QCheckBox>(screen.get(), "roundToFullBundles")->click();
+        control<QCheckBox>("roundToFullBundles")->click();
         QCOMPARE(workbook->customItems()[0]->cost(), 168 * 23.40);
         QCOMPARE(edited.count(), 1);
     }

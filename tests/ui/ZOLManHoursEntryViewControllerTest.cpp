@@ -5,22 +5,16 @@
 #include "model/ZOLManHours.h"
 #include "model/ZOLWall.h"
 
-class ZOLManHoursEntryViewControllerTest : public QObject {
+class ZOLManHoursEntryViewControllerTest : public ScreenTest<ZOLManHoursEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLManHoursEntryViewController> screen;
     std::shared_ptr<ZOLManHours> hours;
-
-    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
-    QComboBox* box(const char* name) { return control<QComboBox>(screen.get(), name); }
 
 private slots:
     void init() {
         hours = std::make_shared<ZOLManHours>();
-        screen = shownScreen<ZOLManHoursEntryViewController>(
-            [this](auto& s) { s.setManHourData(hours); });
+        showScreen([this](auto& s) { s.setManHourData(hours); });
     }
-    void cleanup() { screen.reset(); }
 
     void typingAndChoosingRecomputeTheLabour() {
         // The keystroke and rewrite rules are every entry field's (Tilt-Up and Wall tabs).
@@ -30,7 +24,7 @@ private slots:
         QCOMPARE(box("crewExperience")->count(), 3);
         choose(box("crewExperience"), 2);
         QCOMPARE(hours->crewExperience(), 2);
-        QCOMPARE(control<QLabel>(screen.get(), "crewExperienceGrade")->text(), QString("2"));
+        QCOMPARE(control<QLabel>("crewExperienceGrade")->text(), QString("2"));
 
         type(field("sqftWall"), "2000");
         type(field("costPerHour"), "40");
@@ -42,7 +36,6 @@ private slots:
     }
 
     void pullDataAddsCornersAngleAndTs() {
-        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setInsideCornerLocations(2);
         wall->setOutsideCornerLocations(3);
@@ -50,10 +43,8 @@ private slots:
         wall->setAngleLocations(1);
         wall->setLinearFeetCorbel(10.0);
         wall->setLinearFeetTapered(2.5);
-        screen->setWallData(wall);
-        screen->pullDataFromWall();
+        pullFrom(wall, &ZOLManHoursEntryViewController::pullDataFromWall);
         expectTexts(screen.get(), "cornersAndTs=7|lfCorbelCurbTapered=12.50");
-        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
     }
 
     void infoButtonsAndF1OpenTheirIllustrations() {
@@ -63,9 +54,8 @@ private slots:
                                           {"lfCorbelCurbTaperedInfo", "none"},
                                           {"wallHeightInfo", "none"}};
         for (const auto& [name, key] : buttons)
-            QCOMPARE(illustrationAfter([&] { control<QToolButton>(screen.get(), name)->click(); }),
-                     QString(key));
-        QCOMPARE(control<QToolButton>(screen.get(), "sqftWallInfo")->focusPolicy(), Qt::ClickFocus);
+            QCOMPARE(illustrationAfter([&] { control<QToolButton>(name)->click(); }), QString(key));
+        QCOMPARE(control<QToolButton>("sqftWallInfo")->focusPolicy(), Qt::ClickFocus);
 
         // F1 in the corbel field finds the field's own key.
         QApplication::setActiveWindow(screen.get());

@@ -7,10 +7,9 @@
 #include "model/ZOLWall.h"
 #include "ui/ZOLOpeningsTableModel.h"
 
-class ZOLOpeningsEntryViewControllerTest : public QObject {
+class ZOLOpeningsEntryViewControllerTest : public ScreenTest<ZOLOpeningsEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLOpeningsEntryViewController> screen;
     std::shared_ptr<ZOLOpenings> openings;
     std::shared_ptr<ZOLWall> wall;
 
@@ -24,16 +23,13 @@ class ZOLOpeningsEntryViewControllerTest : public QObject {
             numbers.push_back(o->rowNumber());
         return numbers;
     }
-    void typeInCell(int row, Column column, const QString& keys) {
-        ::typeInCell(table(), row, column, keys);
-    }
     // Adds a row and types its count, width and height.
     void addRow(const char* count, const char* width, const char* height) {
         button("addOpening")->click();
         const int row = rowCount(table()) - 1;
-        typeInCell(row, Column::NumberOfOpenings, count);
-        typeInCell(row, Column::Width, width);
-        typeInCell(row, Column::Height, height);
+        typeInCell(table(), row, Column::NumberOfOpenings, count);
+        typeInCell(table(), row, Column::Width, width);
+        typeInCell(table(), row, Column::Height, height);
     }
     // The texts of a row's cells, one space between.
     QString cells(int row, std::initializer_list<Column> columns) {
@@ -47,12 +43,11 @@ private slots:
     void init() {
         openings = std::make_shared<ZOLOpenings>();
         wall = std::make_shared<ZOLWall>();
-        screen = shownScreen<ZOLOpeningsEntryViewController>([this](auto& s) {
+        showScreen([this](auto& s) {
             s.setOpeningData(openings);
             s.setWallData(wall);
         });
     }
-    void cleanup() { screen.reset(); }
 
     void addingAndRemovingNumbersTheRows() {
         for (int i = 0; i < 3; ++i)
@@ -89,9 +84,9 @@ private slots:
         expectTexts(screen.get(), "totalSqFt=24.00 Sq Ft|totalLF=29.34 LF");
 
         // Text is read by what it starts with; letters alone give 0.
-        typeInCell(0, Column::Width, "30in");
+        typeInCell(table(), 0, Column::Width, "30in");
         QCOMPARE(row.openingWidth(), 30.0);
-        typeInCell(0, Column::NumberOfOpenings, "abc");
+        typeInCell(table(), 0, Column::NumberOfOpenings, "abc");
         QCOMPARE(row.numberOfOpenings(), 0);
         QCOMPARE(cells(0, {Column::NumberOfOpenings}), QString("0"));
         expectTexts(screen.get(), "totalSqFt=0.00 Sq Ft");

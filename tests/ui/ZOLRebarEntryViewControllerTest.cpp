@@ -5,28 +5,22 @@
 #include "model/ZOLRebar.h"
 #include "model/ZOLWall.h"
 
-class ZOLRebarEntryViewControllerTest : public QObject {
+class ZOLRebarEntryViewControllerTest : public ScreenTest<ZOLRebarEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLRebarEntryViewController> screen;
     std::shared_ptr<ZOLRebar> rebar;
 
-    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
-    QComboBox* box(const char* name) { return control<QComboBox>(screen.get(), name); }
     QString line(const char* total, const char* size) {
         auto* length = field(total);
-        return length->isVisible()
-                   ? length->text() + " " + control<QLabel>(screen.get(), size)->text()
-                   : QString("hidden");
+        return length->isVisible() ? length->text() + " " + control<QLabel>(size)->text()
+                                   : QString("hidden");
     }
 
 private slots:
     void init() {
         rebar = std::make_shared<ZOLRebar>();
-        screen =
-            shownScreen<ZOLRebarEntryViewController>([this](auto& s) { s.setRebarData(rebar); });
+        showScreen([this](auto& s) { s.setRebarData(rebar); });
     }
-    void cleanup() { screen.reset(); }
 
     void setsOfOneSizeShareALineAndCountOnceInTheTotals() {
         type(field("wallLength"), "100");
@@ -59,7 +53,7 @@ private slots:
         rebar->setDowelSize(5);
         screen->loadValues();
         type(field("verticalSpacing"), "16");
-        control<QRadioButton>(screen.get(), "metric")->click();
+        control<QRadioButton>("metric")->click();
         QCOMPARE(rebar->measurement(), 1);
         QCOMPARE(box("horizontalSize1")->currentText(), QString("20M"));
         // "#8" has no Metric size: the box and the lines name the bar it was chosen as.
@@ -70,21 +64,18 @@ private slots:
         rebar->setVerticalSpacing(99);
         screen->loadValues();
         QCOMPARE(field("verticalSpacing")->text(), QString("16"));
-        control<QRadioButton>(screen.get(), "imperial")->click();
+        control<QRadioButton>("imperial")->click();
         QCOMPARE(box("dowelSize")->currentText(), QString("#8"));
     }
 
     void pullWallDataTakesTheHeightOnAFourInchStep() {
-        ScopedAlertRecorder alerts;
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallLength(120.0);
         wall->setUseHalfBlock(true);
-        screen->setWallData(wall);
-        screen->pullWallData();
+        pullFrom(wall, &ZOLRebarEntryViewController::pullWallData);
         QCOMPARE(rebar->wallLength(), 120.0);
         QCOMPARE(rebar->wallHeight(), 8.67);
         QCOMPARE(box("wallHeight")->currentText(), QString("8' 8\""));
-        QCOMPARE(alertText(alerts->alerts.back()), QString("Wall data retrieved. [OK] "));
     }
 };
 

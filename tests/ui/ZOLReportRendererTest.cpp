@@ -23,16 +23,20 @@ std::string pages(int count) {
     return html + ZOLPrintData::getFooterHTML();
 }
 
-QString resources() {
-    return QString::fromStdString(ZOLPrintData::resourcesDirectory());
-}
-
 } // namespace
 
 class ZOLReportRendererTest : public QObject {
     Q_OBJECT
 
+    std::unique_ptr<QTemporaryDir> dir;
+    std::unique_ptr<ZOLReportRenderer> renderer;
+
 private slots:
+    void init() {
+        dir = std::make_unique<QTemporaryDir>();
+        renderer = std::make_unique<ZOLReportRenderer>(
+            QString::fromStdString(ZOLPrintData::resourcesDirectory()));
+    }
     void markupInUserTextNeitherRunsNorReachesTheNetwork() {
         // A listener on the loopback interface counts every connection made to it.
         QTcpServer listener;
@@ -65,16 +69,15 @@ private slots:
         // The report prints them as typed (the report tests check that); rendering runs none of
         // it and reaches nothing.
         const std::string html = ZOLPrintData::getHTMLWithWorkbook(workbook, settings);
-        ZOLReportRenderer renderer(resources());
         QString error;
-        const QByteArray pdf = renderer.renderPdfAndWait(html, &error);
+        const QByteArray pdf = renderer->renderPdfAndWait(html, &error);
         QTest::qWait(300); // a refresh or a late image would have been asked for by now
         QVERIFY2(pdf.startsWith("%PDF"), qPrintable(error));
         QCOMPARE(connections, 0);
-        QVERIFY(renderer.page()->title() != QStringLiteral("script ran"));
+        QVERIFY(renderer->page()->title() != QStringLiteral("script ran"));
         // Remote images and style sheets may already be dropped by the engine as insecure
         // content; a file outside the resources folder and the frame are refused by the guards.
-        const QStringList blocked = renderer.blockedRequests();
+        const QStringList blocked = renderer->blockedRequests();
         QVERIFY2(blocked.contains(QStringLiteral("file:///etc/hostname")),
                  qPrintable(blocked.join(' ')));
         QVERIFY(blocked.contains(QString::fromStdString(remote + "/frame")));
@@ -85,9 +88,8 @@ private slots:
 
     void sampleJobPrintsOneSheetPerPageDiv() {
         // zolest's PDF path: the report built by the core, rendered by zolest-render.
-        QTemporaryDir dir;
         const QString sample = QStringLiteral(ZOL_SOURCE_DIR "/examples/sample-house.zol");
-        const QString html = dir.filePath("sample.html"), pdf = dir.filePath("sample.pdf");
+        const QString html = dir->filePath("sample.html"), pdf = dir->filePath("sample.pdf");
         for (const QString& out : {html, pdf}) {
             QProcess zolest;
             zolest.start(QStringLiteral(ZOLEST_PATH), {"report", sample, "-o", out});
@@ -102,29 +104,25 @@ private slots:
     void everyPageDivIsOneLetterSheet() {
         // Forty page divs of 27.9 cm would drift onto forty-one 27.94 cm sheets without the
         // renderer's page breaks.
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("forty.pdf"));
-        ZOLReportRenderer renderer(resources());
+        const QString path = dir->filePath(QStringLiteral("forty.pdf"));
         QString error;
-        QVERIFY2(renderer.writePdf(pages(40), path, &error), qPrintable(error));
+        QVERIFY2(renderer->writePdf(pages(40), path, &error), qPrintable(error));
         QCOMPARE(sheetCount(path), 40);
 
         // A report without pages (every section off) is still a document.
-        QVERIFY(renderer.writePdf(ZOLPrintData::getHeaderHTML() + ZOLPrintData::getFooterHTML(),
-                                  path, &error));
+        QVERIFY(renderer->writePdf(ZOLPrintData::getHeaderHTML() + ZOLPrintData::getFooterHTML(),
+                                   path, &error));
         QCOMPARE(sheetCount(path), 1);
     }
 
     void printsThroughAPrinter() {
-        QTemporaryDir dir;
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
-        printer.setOutputFileName(dir.filePath(QStringLiteral("printed.pdf")));
-        ZOLReportRenderer renderer(resources());
+        printer.setOutputFileName(dir->filePath(QStringLiteral("printed.pdf")));
         auto print = [&](const std::string& report) {
             QEventLoop loop;
             bool printed = false;
-            renderer.print(report, &printer, [&](bool ok, const QString&) {
+            renderer->print(report, &printer, [&](bool ok, const QString&) {
                 printed = ok;
                 loop.quit();
             });
@@ -140,24 +138,22 @@ private slots:
     }
 
     void aLongReportShowsProgressThatCancels() {
-        QTemporaryDir dir;
-        const QString path = dir.filePath(QStringLiteral("cancelled.pdf"));
+        const QString path = dir->filePath(QStringLiteral("cancelled.pdf"));
         QWidget window;
-        ZOLReportRenderer renderer(resources());
-        ZOLReportProgress shortReport(&window, &renderer, pages(ZOLReportProgress::kFewPages));
+        ZOLReportProgress shortReport(&window, renderer.get(), pages(ZOLReportProgress::kFewPages));
         QVERIFY(!shortReport.dialog());
-        ZOLReportProgress progress(&window, &renderer, pages(40));
+        ZOLReportProgress progress(&window, renderer.get(), pages(40));
         QVERIFY(progress.dialog());
         // The user presses Cancel while the report is laid out.
         QTimer::singleShot(0, progress.dialog(),
                            [&] { progress.dialog()->findChild<QPushButton*>()->click(); });
         QString error;
-        QVERIFY(!renderer.writePdf(pages(40), path, &error));
-        QVERIFY(renderer.wasCancelled());
+        QVERIFY(!renderer->writePdf(pages(40), path, &error));
+        QVERIFY(renderer->wasCancelled());
         QVERIFY(!QFile::exists(path));
         // The next report is not cancelled.
-        QVERIFY2(renderer.writePdf(pages(1), path, &error), qPrintable(error));
-        QVERIFY(!renderer.wasCancelled());
+        QVERIFY2(renderer->writePdf(pages(1), path, &error), qPrintable(error));
+        QVERIFY(!renderer->wasCancelled());
     }
 };
 

@@ -16,7 +16,7 @@
 
 namespace {
 // Gives `openings` that many rows, the first with one opening, the next with two, and so on.
-void resize(ZOLOpenings& openings, int rows) {
+std::shared_ptr<ZOLOpenings> resize(std::shared_ptr<ZOLOpenings> openings, int rows) {
     std::vector<std::shared_ptr<ZOLOpening>> list;
     for (int i = 0; i < rows; ++i) {
         auto opening = std::make_shared<ZOLOpening>();
@@ -25,12 +25,7 @@ void resize(ZOLOpenings& openings, int rows) {
         opening->setOpeningHeight(48.0);
         list.push_back(opening);
     }
-    openings.setOpeningList(list);
-}
-
-std::shared_ptr<ZOLOpenings> openingsOf(int rows) {
-    auto openings = std::make_shared<ZOLOpenings>();
-    resize(*openings, rows);
+    openings->setOpeningList(list);
     return openings;
 }
 } // namespace
@@ -44,10 +39,10 @@ private slots:
 
         ZOLOpeningsTableModel openings;
         QAbstractItemModelTester openingsTester(&openings, Mode::QtTest);
-        const auto list = openingsOf(2);
+        const auto list = resize(std::make_shared<ZOLOpenings>(), 2);
         openings.setOpeningData(list);
         for (int rows : {2, 5, 1, 0, 3}) {
-            resize(*list, rows);
+            resize(list, rows);
             openings.reload();
             QCOMPARE(openings.rowCount(), rows);
         }
@@ -82,7 +77,7 @@ private slots:
 
     void rowsThatStayKeepTheirSelection() {
         ZOLOpeningsTableModel model;
-        const auto list = openingsOf(2);
+        const auto list = resize(std::make_shared<ZOLOpenings>(), 2);
         model.setOpeningData(list);
         model.reload();
         QTableView view;
@@ -92,7 +87,7 @@ private slots:
         // Rows come and go at the end, as lines are added and removed.
         const std::tuple<int, bool> steps[] = {{3, true}, {2, true}, {1, false}};
         for (const auto& [rows, kept] : steps) {
-            resize(*list, rows);
+            resize(list, rows);
             model.reload();
             QCOMPARE(view.selectionModel()->isRowSelected(1), kept);
         }
@@ -100,7 +95,7 @@ private slots:
 
     void aCellGivenBackItsOwnTextIsNoEdit() {
         ZOLOpeningsTableModel openings;
-        openings.setOpeningData(openingsOf(1));
+        openings.setOpeningData(resize(std::make_shared<ZOLOpenings>(), 1));
         openings.reload();
         QSignalSpy rowEdits(&openings, &ZOLOpeningsTableModel::rowEdited);
         const QModelIndex width = openings.index(0, ZOLOpeningsTableModel::Width);

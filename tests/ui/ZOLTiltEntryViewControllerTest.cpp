@@ -3,20 +3,16 @@
 #include "UiTestSupport.h"
 #include "model/ZOLTilt.h"
 
-class ZOLTiltEntryViewControllerTest : public QObject {
+class ZOLTiltEntryViewControllerTest : public ScreenTest<ZOLTiltEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLTiltEntryViewController> screen;
     std::shared_ptr<ZOLTilt> tilt;
-
-    QLineEdit* field(const char* name) { return control<QLineEdit>(screen.get(), name); }
 
 private slots:
     void init() {
         tilt = std::make_shared<ZOLTilt>();
-        screen = shownScreen<ZOLTiltEntryViewController>([this](auto& s) { s.setTiltData(tilt); });
+        showScreen([this](auto& s) { s.setTiltData(tilt); });
     }
-    void cleanup() { screen.reset(); }
 
     void aTenByHundredWallShowsEveryResult() {
         type(field("wallHeight"), "10");

@@ -27,19 +27,11 @@ QStringList shown(ZOLDocument& document) {
 class ZOLUndoTest : public QObject {
     Q_OBJECT
 
-    std::shared_ptr<FieldAlertRecorder> alerts;
-    std::shared_ptr<ZOLAlertPresenter> previous_;
+    FieldAlerts alerts;
     QTemporaryDir dir_;
 
     std::unique_ptr<ZOLDocument> sampleHouse() {
-        const QString path = dir_.filePath("house.zol");
-        QFile::remove(path);
-        QFile::copy(ZOL_SOURCE_DIR "/examples/sample-house.zol", path);
-        auto document = std::make_unique<ZOLDocument>();
-        document->setSnapshotDirectory(dir_.filePath("snapshots"));
-        if (!document->readFromFile(path))
-            qFatal("the sample did not open");
-        return document;
+        return openedDocument(sampleHouseCopy(dir_.filePath("house.zol")));
     }
     static QWidget* tab(ZOLDocument& document, int index) {
         document.tabView()->setCurrentIndex(index);
@@ -51,17 +43,20 @@ class ZOLUndoTest : public QObject {
 
 private slots:
     void initTestCase() { useTestSettings("ZOLUndoTest"); }
-    void init() {
-        alerts = std::make_shared<FieldAlertRecorder>();
-        previous_ = ZOLAlerts::setPresenter(alerts);
-    }
-    void cleanup() { ZOLAlerts::setPresenter(previous_); }
+    void init() { alerts.renew(); }
 
     void everyKindOfChangeIsUndoneAndRedone() {
         const QString prices = dir_.filePath("prices.zp");
         QFile::remove(prices);
         QVERIFY(QFile::copy(ZOL_SOURCE_DIR "/examples/prices.zp", prices));
         using Act = std::function<void(ZOLDocument&)>;
+        // A worksheet or notes command answered with OK and the text typed.
+        const auto answered = [this](const char* text, void (ZOLDocument::*command)()) -> Act {
+            return [this, text, command](ZOLDocument& d) {
+                alerts->answer(0, text);
+                (d.*command)();
+            };
+        };
         const std::pair<QString, Act> changes[] = {
             {"Undo Wall Length",
              [](ZOLDocument& d) { type(control<QLineEdit>(tab(d, 0), "wallLength"), "200"); }},
@@ -76,22 +71,11 @@ private slots:
                  d.deleteWorksheet();
              }},
             {"Undo Rename Worksheet \"Basement\"",
-             [this](ZOLDocument& d) {
-                 alerts->answer(0, "Cellar");
-                 d.renameWorksheet();
-             }},
-            {"Undo Add Worksheet \"Shed\"",
-             [this](ZOLDocument& d) {
-                 alerts->answer(0, "Shed");
-                 d.addWorksheet();
-             }},
+             answered("Cellar", &ZOLDocument::renameWorksheet)},
+            {"Undo Add Worksheet \"Shed\"", answered("Shed", &ZOLDocument::addWorksheet)},
             {"Undo Project",
              [](ZOLDocument& d) { type(control<QLineEdit>(&d, "projectName"), "Lakeside"); }},
-            {"Undo Project Notes",
-             [this](ZOLDocument& d) {
-                 alerts->answer(0, "Pour Monday");
-                 d.editNotes();
-             }},
+            {"Undo Project Notes", answered("Pour Monday", &ZOLDocument::editNotes)},
             {"Undo Waste Percentage",
              [](ZOLDocument& d) { choose(control<QComboBox>(tab(d, 2), "wastePercentage"), 7); }},
             {"Undo Load Price File",

@@ -5,22 +5,16 @@
 #include "model/ZOLWall.h"
 #include "ui/ZOLStepper.h"
 
-class ZOLWallEntryViewControllerTest : public QObject {
+class ZOLWallEntryViewControllerTest : public ScreenTest<ZOLWallEntryViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLWallEntryViewController> screen;
     std::shared_ptr<ZOLWall> wall;
-
-    template <typename T> T* control(const char* name) { return ::control<T>(screen.get(), name); }
-    QLineEdit* field(const char* name) { return control<QLineEdit>(name); }
-    QComboBox* box(const char* name) { return control<QComboBox>(name); }
 
 private slots:
     void init() {
         wall = std::make_shared<ZOLWall>();
-        screen = shownScreen<ZOLWallEntryViewController>([this](auto& s) { s.setWallData(wall); });
+        showScreen([this](auto& s) { s.setWallData(wall); });
     }
-    void cleanup() { screen.reset(); }
 
     void typingCleansTheFieldAndWritesTheWall() {
         // The keystroke rule every entry field shares is pinned on the Tilt-Up tab. A letter
@@ -53,19 +47,17 @@ private slots:
     }
 
     void endOfEditingRewritesTheFieldFromTheWall() {
-        const char* const edits[][3] = {{"wallLength", "12.5", "12.50"},
-                                        {"lfCorbelBlock", "1.2.3", "1.20"},
-                                        {"outsideCornerLocations", "07", "7"}};
-        for (const auto& [name, keys, shown] : edits) {
+        // Return ends the editing, and so does moving on with Tab.
+        const std::tuple<const char*, const char*, Qt::Key, const char*> edits[] = {
+            {"wallLength", "12.5", Qt::Key_Return, "12.50"},
+            {"lfCorbelBlock", "1.2.3", Qt::Key_Return, "1.20"},
+            {"outsideCornerLocations", "07", Qt::Key_Return, "7"},
+            {"sqftOpenings", "20", Qt::Key_Tab, "20.00"}};
+        for (const auto& [name, keys, key, shown] : edits) {
             type(field(name), keys);
-            QTest::keyClick(field(name), Qt::Key_Return);
+            QTest::keyClick(field(name), key);
             QCOMPARE(field(name)->text(), QString(shown));
         }
-
-        // Moving on with Tab ends the editing too.
-        type(field("sqftOpenings"), "20");
-        QTest::keyClick(field("sqftOpenings"), Qt::Key_Tab);
-        QCOMPARE(field("sqftOpenings")->text(), QString("20.00"));
     }
 
     void eachEditTellsTheDocument() {
@@ -105,8 +97,7 @@ private slots:
             for (const QString& state : QString(states).split(' ')) {
                 const bool enabled = !state.startsWith('!');
                 const QString name = enabled ? state : state.mid(1);
-                QVERIFY2(control<QWidget>(name.toLatin1().constData())->isEnabled() == enabled,
-                         qPrintable(state));
+                QVERIFY2(control<QWidget>(name)->isEnabled() == enabled, qPrintable(state));
             }
         }
 

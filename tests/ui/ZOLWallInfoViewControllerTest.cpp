@@ -3,10 +3,9 @@
 #include "UiTestSupport.h"
 #include "model/ZOLWall.h"
 
-class ZOLWallInfoViewControllerTest : public QObject {
+class ZOLWallInfoViewControllerTest : public ScreenTest<ZOLWallInfoViewController> {
     Q_OBJECT
 
-    std::unique_ptr<ZOLWallInfoViewController> screen;
     std::shared_ptr<ZOLWall> wall;
 
     QString title() { return screen->findChild<QLabel*>("pageTitle")->text(); }
