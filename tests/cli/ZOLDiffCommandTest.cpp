@@ -33,7 +33,10 @@ TEST(ZOLDiffCommand, ExitCodesSayWhetherTheJobsDifferAndTheFiguresAgreeWithTheTa
     };
     for (const Case& c : std::vector<Case>{
              {{"diff", kSample, kSample}, 0, "Worksheet \"Basement\": same", ""},
-             {{"diff", kSample, kSample, "--csv"}, 0, "worksheet,status,", ""},
+             {{"diff", kSample, kSample, "--csv"},
+              0,
+              "worksheet,status,section,record,item,unit,old,new,difference\r\n",
+              ""},
              {{"diff", kSample, changed}, 1, "Wall: Wall length", ""},
              {{"diff", missing, kSample}, 2, "", "There was an error opening the file."},
              {{"diff", kSample, missing}, 2, "", missing},
