@@ -1,6 +1,6 @@
 // The files in examples/ (a house of three worksheets, its price list and its job-summary
 // template) and the resaved house in tests/data/ are exactly what the program reads and writes.
-// (The new workbook's file is pinned by ZOLWorkbookTest.)
+// (The new workbook's file is pinned by zolest new.)
 #include "io/ZOLPriceFileReader.h"
 #include "io/ZOLTemplateReader.h"
 #include "model/ZOLPriceItem.h"

@@ -21,7 +21,6 @@ TEST(ZOLSaving, MarkupInTheProjectAndWorksheetTextsComesBack) {
     ScopedAlertRecorder alerts;
     ZOLWorkbook workbook;
     workbook.setProjectName(kMarkup);
-    workbook.setClientName("Smith & Sons");
     workbook.setProjectVersion("<v2>");
     workbook.setDistributorName("\"Best\" Blocks");
     workbook.worksheets()[0]->setName("Garage \"B\" & <1>");
@@ -32,7 +31,6 @@ TEST(ZOLSaving, MarkupInTheProjectAndWorksheetTextsComesBack) {
     EXPECT_TRUE(ZOLFileSaver::readsBack(bytes, ZOLFileKind::Workbook));
     const auto opened = openedWorkbook(bytes);
     EXPECT_EQ(opened->projectName(), kMarkup);
-    EXPECT_EQ(opened->clientName(), "Smith & Sons");
     EXPECT_EQ(opened->worksheets()[0]->name(), "Garage \"B\" & <1>");
     // Saved again, the file is the same: escaping is stable.
     EXPECT_EQ(opened->getXMLString().find(bytes.substr(0, bytes.find("<PricingData>"))), 0u);
