@@ -76,11 +76,8 @@ TEST(ZOLConcrete, WritesFifteenFieldsAndReadsBackThirteen) {
             r.setSqFtOpenings(42.5);
         });
 
-    // The openings flag and area have no code of their own; none of the record's reaches them.
-    for (int32_t code = 11; code <= 23; ++code)
-        written.setValue("0", code);
-    EXPECT_TRUE(written.removeSqFtOpenings());
-    EXPECT_EQ(written.sqFtOpenings(), 42.5);
+    // The openings flag and area have no code of their own: what a file's elements for them do
+    // is checked on the workbook reader.
     written.setValue("Cubic Metres", 11);
     EXPECT_EQ(written.measurement(), 1);
     written.setValue("Imperial", 11);

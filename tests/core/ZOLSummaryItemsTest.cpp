@@ -95,7 +95,7 @@ protected:
 
 } // namespace
 
-TEST_F(ZOLSummaryItems, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeInUse) {
+TEST_F(ZOLSummaryItems, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeInUseAtTheTop) {
     // The take-off the package is priced from: North 143 straight, 12 corners, 6
     // buck, 53 extenders, 500 clips, 465 sticks; South 68 straight, 12 angles,
     // 250 clips; Garage 31 straight, 250 clips.
@@ -132,9 +132,8 @@ TEST_F(ZOLSummaryItems, WallPackageIsPricedPartByPartWithAccessoriesOncePerSizeI
     // nothing), so the accessories are charged once, at its price.
     EXPECT_NEAR(workbook.getWallSummaryItemForWalls(walls(), pricing, false, true)->cost(),
                 0.0 + 4.80 * (53 + 1000 + 465), 1e-9);
-}
 
-TEST_F(ZOLSummaryItems, WallLineReplacesTheOldOneAtTheTopAndIsHiddenWhenEmpty) {
+    // The line replaces the old one at the top, and is hidden when the walls order nothing.
     auto user = std::make_shared<ZOLCustomItem>();
     auto oldWall = tiedLine({{89, "Wall"}});
     workbook.setCustomItems({user, oldWall});

@@ -52,8 +52,7 @@ TEST(ZOLWall, HundredFeetOfEightInchWallWithHalfAndCutCoursesOrOpenings) {
     ZOLWall wall = wallOf(100);
     EXPECT_EQ(wall.getStraightBlocks(), 153); // 150 plus 2 % waste
     EXPECT_EQ(wall.getHVClips(), 500);        // two started boxes of 150 blocks
-    EXPECT_EQ(wall.getBracing(), 17);
-    EXPECT_DOUBLE_EQ(wall.getLinearFeetRebar(), 100 / 1.33 * 8 * 1.1 + 6 * 100 + 100);
+    // Its bracing and rebar: see zolest calc wall.
     EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27);
     // Its straight row on the Block Info tab (13 bundles, 156 rounded, 1170.00 lbs): see the tab
     // and the order list export.
@@ -77,13 +76,11 @@ TEST(ZOLWall, HundredFeetOfEightInchWallWithHalfAndCutCoursesOrOpenings) {
     EXPECT_DOUBLE_EQ(wall.getTotalWallHeight(), 8.0 + 0.667 + 0.334);
     EXPECT_EQ(wall.getRows(), 6);
 
-    // Openings replace eighty-five percent of their blocks.
+    // Openings replace eighty-five percent of their blocks (their net area and concrete: see
+    // zolest calc wall).
     wall = wallOf(100);
-    wall.setSqftOpenings(53.3); // ten blocks of area, 8.5 of them saved
-    EXPECT_EQ(wall.getOpeningsInBlockCount(), 8);
+    wall.setSqftOpenings(53.3);               // ten blocks of area, 8 of them saved
     EXPECT_EQ(wall.getStraightBlocks(), 145); // ceil(1.02 × 142)
-    EXPECT_DOUBLE_EQ(wall.getNetSqFtOfWall(), 800 - 53.3);
-    EXPECT_DOUBLE_EQ(wall.getConcreteYards(), 8 * 100 * (8 / 12.0) / 27 - (8 / 12.0) * 53.3 / 27);
 }
 
 TEST(ZOLWall, CornersAnglesAndTsPerSize) {
@@ -213,24 +210,9 @@ TEST(ZOLWall, ClipsBundlesTrucksRowsAndRebar) {
 
 TEST(ZOLWall, WritesEveryFieldButTheWasteAndReadsThemBack) {
     ZOLWall wall = expectRecordFile<ZOLWall>("wall", kFilled, 45, 69);
+    // The waste is not kept in the file: see the workbook reader's tests. How loosely the texts
+    // read (leading numbers, size words, switches) is pinned on the shared helpers.
     EXPECT_EQ(wall.wastePercentage(), 0.02);
-    ZOLWall fresh;
-    fresh.setWastePercentage(0.5); // not kept in the file
-    EXPECT_EQ(fresh.getXMLString(), ZOLWall().getXMLString());
-    // Texts read leniently.
-    for (const auto& [code, text] :
-         CodeTexts{{48, "  42 corners"}, {47, "-3.5e1ft"}, {63, "no"}, {45, "twelve"}})
-        wall.setValue(std::string(text), code);
-    EXPECT_EQ(wall.insideCornerLocations(), 42);
-    EXPECT_EQ(wall.wallLength(), -35.0);
-    EXPECT_FALSE(wall.useCutBlock());
-    EXPECT_EQ(wall.blockSize(), 12);
-    for (int32_t code : {45, 46, 64})
-        wall.setValue(std::nullopt, code);
-    EXPECT_EQ(wall.blockSize(), 8);
-    EXPECT_EQ(wall.wallHeight(), 0.0);
-    EXPECT_FALSE(wall.useHalfBlock());
-
     wall.setBlockSize(7);
     EXPECT_NE(wall.getXMLString().find("<BlockSize>(null)</BlockSize>"), std::string::npos);
 }

@@ -101,7 +101,7 @@ private:
 
 } // namespace
 
-TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocument) {
+TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocumentAndNothingCountedNoTotals) {
     auto workbook = workbookOf({"North", "South"});
     const std::string blank = ZOLPrintData::getHeaderHTML() + "</body></html>";
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {}), blank);
@@ -111,6 +111,15 @@ TEST_F(ZOLPrintDataReport, NothingSelectedPrintsABlankDocument) {
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, allFalse), blank);
     // Settings the report does not know change nothing.
     EXPECT_EQ(ZOLPrintData::getHTMLWithWorkbook(workbook, {{"PrintEverything", true}}), blank);
+
+    // No wall with a length counts no blocks: the summary table stays empty, without sign or
+    // totals.
+    workbook->setRoundToFullBundles(true);
+    const std::string page = ZOLPrintData::getSummaryHTML(workbook);
+    EXPECT_THAT(page, EndsWith("<th>Approx. Weight</th>\n</tr>\n</table>\n"
+                               "<br /><p>* Quantities rounded to full bundles</p>\n"
+                               "</div>\n</div>\n"));
+    EXPECT_THAT(page, Not(HasSubstr("Job Site Sign")));
 }
 
 TEST_F(ZOLPrintDataReport, ProjectInformationFillsMissingTextsAndNamesTheWorksheet) {
@@ -136,10 +145,7 @@ TEST_F(ZOLPrintDataReport, OneWorksheetReportPicksTheIndexAndKeepsTheWholeWorkbo
     EXPECT_THAT(html, HasSubstr("Worksheet: North</p>"));
     // The summary counts the garage's blocks although only the first worksheet prints.
     EXPECT_THAT(html, HasSubstr("<td>8\" Straight Block</td>"));
-
-    html = ZOLPrintData::getHTMLWithWorkbook(workbook, 1, settings);
-    EXPECT_THAT(html, HasSubstr("Worksheet: South</p>"));
-    EXPECT_THAT(html, Not(HasSubstr("Worksheet: North")));
+    // A worksheet picked by its index: the golden one-worksheet report.
 
     // Past the last worksheet (or with none left) only the workbook pages print.
     EXPECT_THAT(pageClasses(ZOLPrintData::getHTMLWithWorkbook(workbook, 3, settings)),
@@ -168,17 +174,6 @@ TEST_F(ZOLPrintDataReport, OnlyTheLastOpeningsPageListsOpenings) {
     }
     // The worksheet's own list is left as it was.
     EXPECT_EQ(worksheet->openingData()->openingList().size(), 17u);
-}
-
-TEST_F(ZOLPrintDataReport, AnEmptyWorkbookSummaryHasNoSignAndNoTotals) {
-    auto workbook = workbookOf({"A", "B", "C"});
-    // No wall with a length counts no blocks: the table stays empty, without sign or totals.
-    workbook->setRoundToFullBundles(true);
-    const std::string page = ZOLPrintData::getSummaryHTML(workbook);
-    EXPECT_THAT(page, EndsWith("<th>Approx. Weight</th>\n</tr>\n</table>\n"
-                               "<br /><p>* Quantities rounded to full bundles</p>\n"
-                               "</div>\n</div>\n"));
-    EXPECT_THAT(page, Not(HasSubstr("Job Site Sign")));
 }
 
 TEST_F(ZOLPrintDataReport, JobSummaryTruncatesTheQuantityTotalAndUserTextsGoInAsTyped) {
