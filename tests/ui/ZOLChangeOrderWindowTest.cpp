@@ -22,8 +22,8 @@ private slots:
         auto newer =
             ZOLWorkbookReader::readWorkbookData(longerBasement(sampleHouseText())).workbook;
         ZOLChangeOrderWindow window(older, newer, nullptr, "quote.zol", "now.zol");
+        // Unfiltered, unchanged worksheets are listed too (the text itself is the report's).
         QVERIFY(window.text().contains("Worksheet \"Main Floor\": same"));
-        QVERIFY(window.text().contains("Wall: Wall length"));
         window.setOnlyChanges(true);
         QCOMPARE(
             window.text().toStdString(),

@@ -16,7 +16,7 @@ private slots:
         showScreen([this](auto& s) { s.setConcreteData(concrete); });
     }
 
-    void wholeInchFieldsTakeTheLeadingIntegerAndVolumesFollow() {
+    void wholeInchFieldsVolumesAndPullingTheWallsSize() {
         type(field("wallThickness"), "8.5");
         QCOMPARE(concrete->wallThickness(), 8);
         QCOMPARE(field("wallThickness")->text(), QString("8.5"));
@@ -42,9 +42,8 @@ private slots:
         control<QCheckBox>("removeOpenings")->click();
         QVERIFY(concrete->removeSqFtOpenings());
         QCOMPARE(field("wallVolume")->text(), QString("4.59"));
-    }
 
-    void pullWallDataCopiesHeightLengthAndBlockSize() {
+        // Pulling the wall's facts copies its height, length and block size over what was typed.
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallHeight(9.0);
         wall->setWallLength(120.0);

@@ -16,7 +16,7 @@ private slots:
         showScreen([this](auto& s) { s.setManHourData(hours); });
     }
 
-    void typingAndChoosingRecomputeTheLabour() {
+    void typingChoosingAndPullingTheWallRecomputeTheLabour() {
         // The keystroke and rewrite rules are every entry field's (Tilt-Up and Wall tabs).
         QCOMPARE(box("crewSize")->currentText(), QString("6"));
         choose(box("crewSize"), 0);
@@ -33,9 +33,8 @@ private slots:
                  QString::asprintf("%.3f", hours->getManHourRate()));
         QCOMPARE(field("costOfLabor")->text(), QString::asprintf("$%.2f", cost));
         QCOMPARE(field("costPerSqFt")->text(), QString::asprintf("$%.2f", cost / 2000.0));
-    }
 
-    void pullDataAddsCornersAngleAndTs() {
+        // Pulling the wall's facts adds its corners, angles and Ts.
         auto wall = std::make_shared<ZOLWall>();
         wall->setInsideCornerLocations(2);
         wall->setOutsideCornerLocations(3);

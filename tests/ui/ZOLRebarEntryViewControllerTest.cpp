@@ -48,7 +48,7 @@ private slots:
         QCOMPARE(line("total1", "totalSize1"), QString("600' 0\" #4"));
     }
 
-    void measurementSwitchKeepsPositionsAndLoadLeavesSpacings() {
+    void measurementSwitchKeepsPositionsAndPullingTakesTheWallsSize() {
         rebar->setHorizontalSize1(3);
         rebar->setDowelSize(5);
         screen->loadValues();
@@ -66,9 +66,8 @@ private slots:
         QCOMPARE(field("verticalSpacing")->text(), QString("16"));
         control<QRadioButton>("imperial")->click();
         QCOMPARE(box("dowelSize")->currentText(), QString("#8"));
-    }
 
-    void pullWallDataTakesTheHeightOnAFourInchStep() {
+        // Pulling the wall's size takes its height on a four-inch step.
         auto wall = std::make_shared<ZOLWall>();
         wall->setWallLength(120.0);
         wall->setUseHalfBlock(true);
