@@ -78,9 +78,9 @@ private slots:
         QCOMPARE(row.numberOfOpenings(), 2);
         QCOMPARE(row.openingWidth(), 36.0);
         QCOMPARE(row.openingHeight(), 48.0);
-        // The figures are the openings calculator's to pin; the table shows the totals.
-        QCOMPARE(cells(0, {Column::Width, Column::TotalSqFt, Column::TotalLF}),
-                 QString("36.00 24.00 29.34"));
+        QCOMPARE(cells(0, {Column::Width, Column::NetSqFt, Column::TotalSqFt, Column::NetLF,
+                           Column::TotalLF}),
+                 QString("36.00 12.00 24.00 14.67 29.34"));
         expectTexts(screen.get(), "totalSqFt=24.00 Sq Ft|totalLF=29.34 LF");
 
         // Text is read by what it starts with; letters alone give 0.

@@ -16,12 +16,14 @@ private slots:
     }
 
     void aTenByHundredWallShowsTheResultsAndTypingIsCleaned() {
-        // The panels, inserts, bundles and weights are zolest calc tilt's to pin; here the
-        // engine's panel count and what the screen works out itself.
+        // Every result, so that none shows another's value.
         type(field("wallHeight"), "10");
         type(field("wallLength"), "100");
-        expectTexts(screen.get(), "totalSquareFeet=1000.00|panelActualParts=190|totalWeight=693.50|"
-                                  "panelPartsRounded=204|insertPartsRounded=900");
+        expectTexts(screen.get(),
+                    "totalSquareFeet=1000.00|panelActualParts=190|panelPartsPerBundle=12|"
+                    "panelBundles=17|panelPartsRounded=204|panelWeight=665.00|"
+                    "insertActualParts=570|insertPartsPerBundle=300|insertBundles=3|"
+                    "insertPartsRounded=900|insertWeight=28.50|totalWeight=693.50");
 
         // The keystroke rule every entry field shares, and leaving the field rewrites it.
         QLineEdit* height = field("wallHeight");
